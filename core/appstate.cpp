@@ -1,0 +1,24 @@
+#include "core/appstate.h"
+
+#include "core/chordtypes.h"
+#include "core/language.h"
+#include "core/scales.h"
+#include "core/tunings.h"
+
+AppState::AppState()
+    : ChordTypes(BuiltInChordTypes()),
+      Scales(BuiltInScales()),
+      Tunings(BuiltInTunings()),
+      LanguageFile(defaultLanguage) {}
+
+bool AppState::IsDefaultLanguage() const {
+    return LanguageFile == defaultLanguage;
+}
+
+Tongue AppState::InterfaceTongue() const {
+    return IsDefaultLanguage() ? Tongue::Russian : Tongue::English;
+}
+
+QString AppState::SettingsFile() const {
+    return AppPath + QStringLiteral("tonvik.ini");
+}

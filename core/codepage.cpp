@@ -1,0 +1,71 @@
+#include "core/codepage.h"
+
+#include "core/runtimeerror.h"
+
+#include <QStringConverter>
+
+#include <algorithm>
+
+namespace {
+
+#ifdef Q_OS_WIN
+QStringDecoder Decoder() {
+    return QStringDecoder(QStringConverter::System);
+}
+QStringEncoder Encoder() {
+    return QStringEncoder(QStringConverter::System);
+}
+#else
+constexpr const char* cyrillicPage = "windows-1251";
+QStringDecoder Decoder() {
+    return QStringDecoder(cyrillicPage);
+}
+QStringEncoder Encoder() {
+    return QStringEncoder(cyrillicPage);
+}
+#endif
+
+template <typename Converter>
+Converter Checked(Converter converter) {
+    if (!converter.isValid())
+        throw RunTimeError({QStringLiteral("Кодовая страница 1251 недоступна в этой системе."),
+                            QStringLiteral("This system does not provide code page 1251.")});
+    return converter;
+}
+
+} // namespace
+
+bool IsAscii(QByteArrayView bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) == 0; });
+}
+
+QString FromAnsi(QByteArrayView bytes) {
+    // Most fields are plain ASCII; opening a converter for each would cost more than the text.
+    if (IsAscii(bytes))
+        return QString::fromLatin1(bytes);
+    return Checked(Decoder()).decode(bytes);
+}
+
+QByteArray ToAnsi(QStringView text) {
+    QByteArray bytes = Checked(Encoder()).encode(text);
+    // The converter writes the control character SUB for what the page does not have.
+    constexpr QChar substitute(0x1A);
+    if (!text.contains(substitute))
+        bytes.replace(substitute.toLatin1(), '?');
+    return bytes;
+}
+
+QString OutsideAnsi(QStringView text) {
+    QString outside;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const QStringView character = text.mid(i, pair ? 2 : 1);
+        i += pair ? 1 : 0;
+        if (character[0].unicode() < 0x80 || outside.contains(character))
+            continue;
+        if (FromAnsi(ToAnsi(character)) != character)
+            outside += character;
+    }
+    return outside;
+}

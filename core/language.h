@@ -1,0 +1,40 @@
+// Interface languages: Russian is built in, another comes from a file beside the program.
+#pragma once
+
+#include "core/profile.h"
+
+#include <QStringList>
+
+struct AppState;
+
+extern const QString defaultLanguage;     // "Default": the built-in Russian texts.
+extern const QString missingLanguageText; // Shown where a language file lacks a key.
+
+// The texts of one language file. A file that cannot be read lacks every key.
+class LanguageTexts {
+public:
+    explicit LanguageTexts(const QString& path);
+
+    // The text of a numbered key; "LANG FILE ERROR!" where it is missing.
+    QString Text(const QString& section, int key) const;
+
+    // The language's own name for itself, as the list of languages shows it.
+    QString DisplayName() const;
+
+private:
+    ProfileFile m_file;
+};
+
+enum class LanguageChoice { BuiltIn, File, FileMissing };
+
+// Reads which language the settings name and sets LanguageFile. A file that is missing
+// gives the built-in texts, now and, by a rewritten setting, at the next start.
+LanguageChoice ChooseLanguage(AppState& state);
+
+// The names of the language files in the program's folder, "*.lng" in any letter case,
+// sorted by name: the same order whenever it is asked for.
+QStringList LanguageFiles(const QString& appPath);
+
+// The built-in texts of messages, in force while no language file is.
+struct UiTexts;
+UiTexts BuiltInUiTexts();

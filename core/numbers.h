@@ -1,0 +1,11 @@
+// Numbers read out of text that a person typed.
+#pragma once
+
+#include <QStringView>
+
+// The number that the text begins with, blanks before it skipped: "3.7 frets" is 3.7.
+// A text that begins with no number, the empty text among them, is 0.
+double LeadingNumber(QStringView text);
+
+// Rounded to a whole number, a half to the even one; a run-time error outside 16 bits.
+int ToInteger16(double number);
