@@ -1,0 +1,88 @@
+#include "controls/application.h"
+
+#include "controls/theme.h"
+#include "core/runtimeerror.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <new>
+
+namespace {
+
+const Phrase reportTitle{QStringLiteral("Ошибка выполнения"), QStringLiteral("Run-time error")};
+
+void Prepare(QMessageBox& box, const RunTimeError& error, Tongue tongue) {
+    box.setObjectName(QStringLiteral("RunTimeError"));
+    box.setIcon(QMessageBox::Critical);
+    box.setWindowTitle(reportTitle.In(tongue));
+    box.setText(error.What().In(tongue));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+RunTimeError OutOfMemory() {
+    return RunTimeError({QStringLiteral("Не хватает памяти для этого действия."),
+                         QStringLiteral("There is not enough memory for this action.")});
+}
+
+} // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    ApplyTheme(*this);
+    setQuitOnLastWindowClosed(false);
+}
+
+void Application::Report(const RunTimeError& error) {
+    QMessageBox box(activeWindow());
+    Prepare(box, error, m_tongue);
+    box.setInformativeText(
+        Phrase{QStringLiteral("Действие прервано. Всё, что сделано, осталось."),
+               QStringLiteral("The action was abandoned. What was done remains.")}
+            .In(m_tongue));
+    auto* goOn =
+        box.addButton(Phrase{QStringLiteral("Продолжить"), QStringLiteral("Continue")}.In(m_tongue),
+                      QMessageBox::AcceptRole);
+    auto* end = box.addButton(
+        Phrase{QStringLiteral("Завершить"), QStringLiteral("End the program")}.In(m_tongue),
+        QMessageBox::DestructiveRole);
+    box.setDefaultButton(goOn);
+    box.setEscapeButton(goOn);
+    box.exec();
+    if (box.clickedButton() != end)
+        return;
+    if (m_end)
+        m_end();
+    else
+        quit();
+}
+
+void Application::ReportAtStart(const RunTimeError& error) {
+    QMessageBox box;
+    Prepare(box, error, m_tongue);
+    box.setInformativeText(Phrase{QStringLiteral("Программа не может начать работу."),
+                                  QStringLiteral("The program cannot start.")}
+                               .In(m_tongue));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+void Application::Guard(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        Report(error);
+    } catch (const std::bad_alloc&) {
+        Report(OutOfMemory());
+    }
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const RunTimeError& error) {
+        Report(error);
+    } catch (const std::bad_alloc&) {
+        Report(OutOfMemory());
+    }
+    return true;
+}

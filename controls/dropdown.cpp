@@ -1,0 +1,43 @@
+#include "controls/dropdown.h"
+
+#include "core/runtimeerror.h"
+
+#include <QSignalBlocker>
+
+#include <utility>
+
+DropDown::DropDown(const QString& name, QWidget* parent) : QComboBox(parent) {
+    setObjectName(name);
+    setSizeAdjustPolicy(AdjustToContents);
+    connect(this, &QComboBox::currentIndexChanged, this, [this](int row) {
+        m_rowAtPopup = -1;
+        if (row >= 0)
+            Q_EMIT RowChosen(row);
+    });
+    connect(this, &QComboBox::activated, this, [this](int row) {
+        if (std::exchange(m_rowAtPopup, -1) == row)
+            Q_EMIT RowChosen(row);
+    });
+}
+
+void DropDown::SetTexts(const QStringList& texts, int row) {
+    const QSignalBlocker silent(this);
+    clear();
+    addItems(texts);
+    setCurrentIndex(row);
+}
+
+void DropDown::SelectRow(int row) {
+    CheckIndex(row, 0, count() - 1,
+               {QStringLiteral("список %1").arg(objectName()),
+                QStringLiteral("the list %1").arg(objectName())});
+    if (row == currentIndex())
+        Q_EMIT RowChosen(row);
+    else
+        setCurrentIndex(row);
+}
+
+void DropDown::showPopup() {
+    m_rowAtPopup = currentIndex();
+    QComboBox::showPopup();
+}

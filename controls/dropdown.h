@@ -1,0 +1,27 @@
+// A drop-down list that tells of every choice, also of the row that is selected already.
+#pragma once
+
+#include <QComboBox>
+
+class DropDown : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit DropDown(const QString& name, QWidget* parent = nullptr);
+
+    // Replaces the rows and selects one without running its command.
+    void SetTexts(const QStringList& texts, int row);
+
+    // Selects the row and runs its command, also when it is selected already.
+    // A run-time error for a row that is not there.
+    void SelectRow(int row);
+
+    void showPopup() override;
+
+Q_SIGNALS:
+    // Once for each choice or change.
+    void RowChosen(int row);
+
+private:
+    int m_rowAtPopup = -1; // Chosen again in the open list, it changes no index.
+};

@@ -1,0 +1,80 @@
+#include "controls/listbox.h"
+
+#include "core/runtimeerror.h"
+
+#include <QMouseEvent>
+#include <QStringListModel>
+
+ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent) {
+    setObjectName(name);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setUniformItemSizes(true); // A million rows are measured by one of them.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setModel(new QStringListModel(this));
+}
+
+void ListBox::SetTexts(const QStringList& texts) {
+    if (auto* own = qobject_cast<QStringListModel*>(model()))
+        own->setStringList(texts);
+    else
+        setModel(new QStringListModel(texts, this));
+}
+
+int ListBox::RowCount() const {
+    return model()->rowCount();
+}
+
+int ListBox::Row() const {
+    return currentIndex().row();
+}
+
+QString ListBox::RowText(int row) const {
+    return model()->index(row, 0).data().toString();
+}
+
+void ListBox::SelectRow(int row) {
+    if (row == -1) {
+        selectionModel()->clear();
+        return;
+    }
+    CheckIndex(row, 0, RowCount() - 1,
+               {QStringLiteral("список %1").arg(objectName()),
+                QStringLiteral("the list %1").arg(objectName())});
+    if (row == Row())
+        Q_EMIT RowChosen(row);
+    else
+        setCurrentIndex(model()->index(row, 0));
+}
+
+void ListBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    const int before = Row();
+    QListView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (pressed.isValid() && pressed.row() == before)
+        Q_EMIT RowChosen(before);
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && pressed.isValid())
+        Q_EMIT RowDoubleClicked(pressed.row());
+}
+
+void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QListView::currentChanged(current, previous);
+    if (current.isValid())
+        Q_EMIT RowChosen(current.row());
+}
+
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const {
+    // Ctrl+click would take the selection away and leave the row current.
+    const auto command = QListView::selectionCommand(index, event);
+    return command.testFlag(QItemSelectionModel::Toggle) ||
+                   command.testFlag(QItemSelectionModel::Deselect)
+               ? QItemSelectionModel::ClearAndSelect
+               : command;
+}

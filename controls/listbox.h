@@ -1,0 +1,39 @@
+// A list box whose rows run a command: by a click, also on the row that is selected
+// already, or by any other change of the selection.
+#pragma once
+
+#include <QListView>
+
+class ListBox : public QListView {
+    Q_OBJECT
+
+public:
+    explicit ListBox(const QString& name, QWidget* parent = nullptr);
+
+    // Shows texts of its own instead of a model that was set.
+    void SetTexts(const QStringList& texts);
+
+    int RowCount() const;
+
+    // -1 while nothing is selected.
+    int Row() const;
+
+    // The empty text for a row that is not there.
+    QString RowText(int row) const;
+
+    // Selects the row and runs its command, also when it is selected already; -1 selects
+    // nothing and runs nothing. A run-time error for any other row that is not there.
+    void SelectRow(int row);
+
+Q_SIGNALS:
+    // Once for each click or change.
+    void RowChosen(int row);
+    void RowDoubleClicked(int row);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+};
