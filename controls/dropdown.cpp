@@ -11,8 +11,7 @@ DropDown::DropDown(const QString& name, QWidget* parent) : QComboBox(parent) {
     setSizeAdjustPolicy(AdjustToContents);
     connect(this, &QComboBox::currentIndexChanged, this, [this](int row) {
         m_rowAtPopup = -1;
-        if (row >= 0)
-            Q_EMIT RowChosen(row);
+        Q_EMIT RowChosen(row);
     });
     connect(this, &QComboBox::activated, this, [this](int row) {
         if (std::exchange(m_rowAtPopup, -1) == row)

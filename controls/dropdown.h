@@ -19,7 +19,7 @@ public:
     void showPopup() override;
 
 Q_SIGNALS:
-    // Once for each choice or change.
+    // Once for each choice or change; -1 when nothing is selected any more.
     void RowChosen(int row);
 
 private:

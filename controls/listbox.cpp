@@ -26,7 +26,8 @@ int ListBox::RowCount() const {
 }
 
 int ListBox::Row() const {
-    return currentIndex().row();
+    const QModelIndex current = currentIndex();
+    return selectionModel()->isSelected(current) ? current.row() : -1;
 }
 
 QString ListBox::RowText(int row) const {
@@ -67,6 +68,12 @@ void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& prev
     QListView::currentChanged(current, previous);
     if (current.isValid())
         Q_EMIT RowChosen(current.row());
+}
+
+void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (!deselected.isEmpty() && !selectionModel()->hasSelection())
+        Q_EMIT RowChosen(-1);
 }
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,

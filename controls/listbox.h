@@ -22,11 +22,11 @@ public:
     QString RowText(int row) const;
 
     // Selects the row and runs its command, also when it is selected already; -1 selects
-    // nothing and runs nothing. A run-time error for any other row that is not there.
+    // nothing. A run-time error for any other row that is not there.
     void SelectRow(int row);
 
 Q_SIGNALS:
-    // Once for each click or change.
+    // Once for each click or change; -1 when nothing is selected any more.
     void RowChosen(int row);
     void RowDoubleClicked(int row);
 
@@ -34,6 +34,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
 };

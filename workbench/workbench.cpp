@@ -1,0 +1,259 @@
+#include "workbench/workbench.h"
+
+#include "core/chordtypes.h"
+#include "core/numbers.h"
+#include "core/runtimeerror.h"
+#include "core/scales.h"
+#include "workbench/fretboardlayout.h"
+#include "workbench/spelling.h"
+
+namespace {
+
+void CheckRow(int row) {
+    if (row < 0 || row >= stringCount)
+        CheckIndex(row + 1, 1, stringCount,
+                   {QStringLiteral("струны"), QStringLiteral("the strings")});
+}
+
+} // namespace
+
+Workbench::Workbench(AppState& state) : m_state(state) {}
+
+void Workbench::ChooseRoot(int row, const QString& name) {
+    m_rootRow = row;
+    m_rootName = name;
+    if (m_rootRow < 0 || m_typeRow < 0)
+        return;
+    NameChosenChord();
+    SpellChord();
+    PlaceFingers();
+}
+
+void Workbench::ChooseType(int row) {
+    m_typeRow = row;
+    if (m_rootRow < 0 || m_typeRow < 0)
+        return;
+    NameChosenChord();
+    m_chordHint = AlternativeNames();
+    SpellChord();
+    PlaceFingers();
+}
+
+void Workbench::NameChosenChord() {
+    m_chordName = m_rootName + m_state.ChordTypes.Field(ChordType::Suffix, m_typeRow + 1);
+}
+
+void Workbench::SpellChord() {
+    if (m_typeRow < 0 || m_rootRow < 0)
+        return;
+    ClearKeyMarks();
+    ClearFingering();
+    const int root = SemitoneOf(m_rootName).value_or(-1);
+    for (const int key :
+         ChordKeys(root, m_state.ChordTypes.Field(ChordType::Structure, m_typeRow + 1)))
+        m_keys.Mark(key);
+    ShowMarkedKeyNames();
+}
+
+void Workbench::ChooseScale(int row, const QString& name) {
+    ClearKeyMarks();
+    ClearFingering();
+    m_keys.Mark(m_rootRow);
+    const QString degrees = m_state.Scales.Field(ScaleDef::Degrees, row + 1);
+    for (const double step : ScaleSteps(degrees))
+        m_keys.Mark(ToInteger16(m_rootRow + step));
+    m_chordName = m_rootName + u' ' + name;
+    ShowMarkedKeyNames();
+}
+
+QString Workbench::AlternativeNames() const {
+    return m_state.ChordTypes.Field(ChordType::AltNames, m_typeRow + 1);
+}
+
+void Workbench::FindChord() {
+    m_chordName = NameChord(m_keys.Marked(), m_state.ChordTypes);
+}
+
+void Workbench::ChooseBarreStrings(int row) {
+    m_barreStringsRow = row; // The barre keeps its extent until it is switched again.
+}
+
+void Workbench::ChooseBarreFret(int row) {
+    m_barreFretRow = row;
+    if (!m_barre)
+        return;
+    SwitchBarre();
+    SwitchBarre();
+}
+
+void Workbench::SwitchBarre() {
+    if (m_barre) {
+        m_barre.reset();
+    } else {
+        if (m_barreStringsRow < 0)
+            throw RunTimeError(
+                {QStringLiteral("Баррэ: не выбрано, сколько струн оно прижимает (lstBarre)."),
+                 QStringLiteral("Barre: how many strings it covers is not chosen (lstBarre).")});
+        m_barre = BarreOfLists();
+    }
+    SetNotes(OpenNotes(m_state.StringNotes));
+    PlaceFingers();
+}
+
+std::optional<Barre> Workbench::BarreOfLists() const {
+    return Barre{m_barreFretRow + 1, m_barreStringsRow};
+}
+
+void Workbench::PlaceFingers() {
+    ClearFingering();
+    const auto marked = m_keys.Marked();
+    if (marked.empty())
+        return;
+    // Who lies under the barre is asked of the lists anew, whatever its picture's extent.
+    const auto barre = m_barre ? BarreOfLists() : std::nullopt;
+    const Fingering fingering = ::PlaceFingers(OpenNotes(m_state.StringNotes), marked, barre);
+    for (std::size_t row = 0; row < stringCount; ++row) {
+        m_rows[row].note = fingering[row].note;
+        m_rows[row].mark = fingering[row].mark;
+        if (const auto fret = fingering[row].fret)
+            m_rows[row].currentFret = m_rows[row].automaticFret = *fret;
+    }
+    FindMissing();
+}
+
+void Workbench::ReadFretboard() {
+    ClearKeyMarks();
+    for (const StringRow& row : m_rows)
+        if (row.enabled && row.note)
+            m_keys.PaintRed(*row.note);
+    ShowMarkedKeyNames();
+}
+
+void Workbench::ClearFretboard() {
+    if (m_barre)
+        SwitchBarre();
+    ClearFingering();
+}
+
+void Workbench::FindNextFret(const QString& stringText) {
+    const int row = ToInteger16(LeadingNumber(stringText) - 1);
+    if (m_typeRow < 0 || m_rootRow < 0)
+        return;
+    const auto marked = m_keys.Marked();
+    if (marked.empty())
+        return;
+    StringRow& string = At(row);
+    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(row)]);
+    if (!open)
+        return;
+    const int fret = NextFret(*open, marked, string.currentFret, string.automaticFret);
+    string.currentFret = fret;
+    string.note = (*open + fret) % notesPerOctave;
+    string.mark = fret == 0 ? std::nullopt : std::optional(fret);
+    FindMissing();
+}
+
+void Workbench::PressString(std::optional<int> row, std::optional<int> fret) {
+    if (!row)
+        return;
+    StringRow& string = At(*row);
+    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(*row)]);
+    if (!open)
+        return;
+    const int stopped = fret.value_or(0);
+    string.note = (*open + stopped) % notesPerOctave;
+    string.mark = stopped;
+}
+
+void Workbench::PressFretNumber(int fret) {
+    const int row = fret - 1;
+    if (!m_barre) {
+        m_barreFretRow = row;
+        SwitchBarre();
+    } else if (m_barreFretRow == row) {
+        m_barre.reset();
+        PlaceFingers();
+    } else {
+        ChooseBarreFret(row);
+    }
+}
+
+bool Workbench::GrabsBarre(double x) const {
+    if (!m_barre)
+        return false;
+    const QRectF bar = FretboardLayout::BarreRect(*m_barre);
+    return bar.left() < x && x < bar.right();
+}
+
+void Workbench::DragBarre(double x) {
+    // Wide enough that the barre, once it has moved, does not jump back at once.
+    constexpr double deadZone = 400;
+    if (!m_barre)
+        return;
+    const double centre = FretboardLayout::BarreRect(*m_barre).center().x();
+    if (x > centre + deadZone && m_barreFretRow + 1 < barreFrets)
+        ChooseBarreFret(m_barreFretRow + 1);
+    else if (x < centre - deadZone && m_barreFretRow > 0)
+        ChooseBarreFret(m_barreFretRow - 1);
+}
+
+void Workbench::ToggleMute(int row) {
+    At(row).enabled = !At(row).enabled;
+}
+
+void Workbench::ToggleKey(int key) {
+    m_keys.Toggle(key);
+    ShowMarkedKeyNames();
+}
+
+void Workbench::ClearKeyMarks() {
+    m_keys.ClearMarks();
+    ShowMarkedKeyNames();
+}
+
+void Workbench::StringsChanged() {
+    SetNotes(OpenNotes(m_state.StringNotes));
+}
+
+void Workbench::ClearFingering() {
+    m_missing = {};
+    for (StringRow& row : m_rows)
+        row.mark.reset();
+    const auto barre = m_barre ? BarreOfLists() : std::nullopt;
+    SetNotes(StartingNotes(OpenNotes(m_state.StringNotes), barre));
+}
+
+void Workbench::ShowMarkedKeyNames() {
+    m_markedNames = KeyNames(m_keys.Marked());
+}
+
+void Workbench::FindMissing() {
+    m_missing = FindMissingNotes(m_keys.Marked(), Notes());
+}
+
+void Workbench::SetNotes(const RowNotes& notes) {
+    for (std::size_t row = 0; row < stringCount; ++row)
+        m_rows[row].note = notes[row];
+}
+
+RowNotes Workbench::Notes() const {
+    RowNotes notes;
+    for (std::size_t row = 0; row < stringCount; ++row)
+        notes[row] = m_rows[row].note;
+    return notes;
+}
+
+const StringRow& Workbench::Row(int row) const {
+    CheckRow(row);
+    return m_rows[static_cast<std::size_t>(row)];
+}
+
+QString Workbench::RowText(int row) const {
+    const auto note = Row(row).note;
+    return note ? NoteName(*note).toString() : m_state.StringNotes[static_cast<std::size_t>(row)];
+}
+
+StringRow& Workbench::At(int row) {
+    CheckRow(row);
+    return m_rows[static_cast<std::size_t>(row)];
+}

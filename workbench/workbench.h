@@ -1,0 +1,105 @@
+// The workbench: what is chosen, marked, fingered and muted, and everything that a command
+// does to it. Plain values; the window shows them.
+#pragma once
+
+#include "workbench/fingering.h"
+#include "workbench/pianokeys.h"
+
+#include <optional>
+
+// One row of the fretboard, row 0 the lowest.
+struct StringRow {
+    std::optional<PitchClass> note; // What it sounds; empty while the open note is no note.
+    std::optional<int> mark;        // The fret of its finger mark: 1 to 20, or 0 off the board.
+    bool enabled = true;            // False for a muted string.
+    int currentFret = 0;            // `StringFrets`: where the combination search stands...
+    int automaticFret = 0;          // ...and where the automatic fingering put it.
+};
+
+constexpr int barreFrets = 15;
+
+class Workbench {
+public:
+    // state: what start-up filled; it must outlive the workbench.
+    explicit Workbench(AppState& state);
+
+    // Each command may throw a run-time error half way; what it did until then stays.
+
+    // A row of a list is chosen, -1 for none, which runs nothing. A root carries its name, which is
+    // compared with the twelve note names.
+    void ChooseRoot(int row, const QString& name);
+    void ChooseType(int row);
+    void ChooseScale(int row, const QString& name);
+    void ChooseBarreStrings(int row);
+    void ChooseBarreFret(int row);
+
+    // The alternative notations of the chosen type; a run-time error with none chosen.
+    QString AlternativeNames() const;
+
+    void FindChord();      // Names the marked keys.
+    void SwitchBarre();    // On or off, with what the two barre lists say.
+    void PlaceFingers();   // The automatic fingering of the marked keys.
+    void ReadFretboard();  // Marks what the strings sound, in the lowest octave.
+    void ClearFretboard(); // Takes a barre off, and all fingers.
+
+    // The next fret for a string; stringText is its number from 1, row 0. A run-time error
+    // for a string that is not there.
+    void FindNextFret(const QString& stringText);
+
+    // A press on the fretboard: no fret puts the mark off the board; no row does nothing.
+    void PressString(std::optional<int> row, std::optional<int> fret);
+    void PressFretNumber(int fret);
+    void ToggleMute(int row);
+
+    // Whether a press at x (twips) takes hold of the barre, and how a drag moves it: by one
+    // fret each time the pointer is far enough from it, within the frets of its list.
+    bool GrabsBarre(double x) const;
+    void DragBarre(double x);
+
+    void ToggleKey(int key);
+    void ClearKeyMarks();
+
+    // Other strings were laid on the rows (`StringNotes`): they sound open, marks stay.
+    void StringsChanged();
+
+    // What the window shows.
+    int RootRow() const { return m_rootRow; }
+    int TypeRow() const { return m_typeRow; }
+    int BarreStringsRow() const { return m_barreStringsRow; }
+    int BarreFretRow() const { return m_barreFretRow; }
+    const PianoKeys& Keys() const { return m_keys; }
+    const StringRow& Row(int row) const;
+    QString RowText(int row) const; // The note that the row sounds, as its label shows it.
+    std::optional<Barre> ShownBarre() const { return m_barre; }
+    const QString& ChordName() const { return m_chordName; }
+    const QString& ChordHint() const { return m_chordHint; }
+    const QString& MarkedNames() const { return m_markedNames; }
+    const MissingNotes& Missing() const { return m_missing; }
+
+private:
+    void SpellChord();
+    void NameChosenChord();
+    void ClearFingering();
+    void ShowMarkedKeyNames();
+    void FindMissing();
+    void SetNotes(const RowNotes& notes);
+    RowNotes Notes() const;
+    std::optional<Barre> BarreOfLists() const;
+    StringRow& At(int row);
+
+    AppState& m_state;
+    PianoKeys m_keys;
+    std::array<StringRow, stringCount> m_rows;
+    std::optional<Barre> m_barre; // As it was when it was switched on.
+
+    int m_rootRow = -1;
+    QString m_rootName;
+    int m_typeRow = -1;
+    int m_barreStringsRow = -1;
+    int m_barreFretRow = -1;
+
+    QString m_chordName;
+    QString m_chordHint;
+    QString m_markedNames;
+    MissingNotes m_missing;
+};
