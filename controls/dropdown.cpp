@@ -19,11 +19,11 @@ DropDown::DropDown(const QString& name, QWidget* parent) : QComboBox(parent) {
     });
 }
 
-void DropDown::SetTexts(const QStringList& texts, int row) {
+void DropDown::SetTexts(const QStringList& texts) {
     const QSignalBlocker silent(this);
     clear();
     addItems(texts);
-    setCurrentIndex(row);
+    setCurrentIndex(-1);
 }
 
 void DropDown::SelectRow(int row) {

@@ -9,8 +9,8 @@ class DropDown : public QComboBox {
 public:
     explicit DropDown(const QString& name, QWidget* parent = nullptr);
 
-    // Replaces the rows and selects one without running its command.
-    void SetTexts(const QStringList& texts, int row);
+    // Replaces the rows; none of the new ones is selected, and nothing runs.
+    void SetTexts(const QStringList& texts);
 
     // Selects the row and runs its command, also when it is selected already.
     // A run-time error for a row that is not there.

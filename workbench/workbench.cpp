@@ -243,6 +243,15 @@ RowNotes Workbench::Notes() const {
     return notes;
 }
 
+RowSound Workbench::SoundOfRow(int row) const {
+    const StringRow& string = Row(row);
+    return {string.enabled, string.mark, m_state.SoundNumbers[static_cast<std::size_t>(row)]};
+}
+
+std::optional<int> Workbench::ShownBarreFret() const {
+    return m_barre ? std::optional(m_barreFretRow + 1) : std::nullopt;
+}
+
 const StringRow& Workbench::Row(int row) const {
     CheckRow(row);
     return m_rows[static_cast<std::size_t>(row)];

@@ -4,6 +4,7 @@
 
 #include "workbench/fingering.h"
 #include "workbench/pianokeys.h"
+#include "workbench/playback.h"
 
 #include <optional>
 
@@ -59,8 +60,15 @@ public:
     void ToggleKey(int key);
     void ClearKeyMarks();
 
+    // Start-up: each key keeps its own colour, to be given back when a mark goes.
+    void SaveKeyColours() { m_keys.SaveOwnColours(); }
+
     // Other strings were laid on the rows (`StringNotes`): they sound open, marks stay.
     void StringsChanged();
+
+    // What playback asks for.
+    RowSound SoundOfRow(int row) const;
+    std::optional<int> ShownBarreFret() const;
 
     // What the window shows.
     int RootRow() const { return m_rootRow; }

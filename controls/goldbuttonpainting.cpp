@@ -1,0 +1,146 @@
+#include "controls/goldbuttonpainting.h"
+
+#include "controls/colours.h"
+#include "controls/goldbutton.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int skinBorder = 2;
+constexpr int skinPiece = 19;
+constexpr int skinFar = skinBorder + skinPiece; // Where a part's right and lower borders begin.
+static_assert(skinFar + skinBorder == GoldButton::skinStep);
+
+constexpr int marginX = 9;
+constexpr int marginY = 5;
+constexpr int pictureGap = 6;
+constexpr int captionFlags = Qt::TextSingleLine | Qt::TextShowMnemonic;
+
+void PaintRing(QPainter& painter, const QRect& ring, const QColor& upper, const QColor& lower) {
+    painter.setPen(lower);
+    painter.drawLine(ring.bottomLeft(), ring.bottomRight());
+    painter.drawLine(ring.topRight(), ring.bottomRight());
+    painter.setPen(upper);
+    painter.drawLine(ring.topLeft(), ring.topRight() - QPoint(1, 0));
+    painter.drawLine(ring.topLeft(), ring.bottomLeft() - QPoint(0, 1));
+}
+
+// The light falls from the upper left. A single ring lies at the very edge.
+void PaintEdge(QPainter& painter, QRect ring, int edge, const QPalette& palette) {
+    const QColor light = palette.color(QPalette::Light);
+    const QColor midlight = palette.color(QPalette::Midlight);
+    const QColor shade = palette.color(QPalette::Dark);
+    const QColor dark = palette.color(QPalette::Shadow);
+    if ((edge & (Edge::raisedOuter | Edge::sunkenOuter)) != 0) {
+        if ((edge & Edge::raisedOuter) != 0)
+            PaintRing(painter, ring, midlight, dark);
+        else
+            PaintRing(painter, ring, shade, light);
+        ring.adjust(1, 1, -1, -1);
+    }
+    if ((edge & Edge::raisedInner) != 0)
+        PaintRing(painter, ring, light, shade);
+    else if ((edge & Edge::sunkenInner) != 0)
+        PaintRing(painter, ring, dark, midlight);
+}
+
+void PaintSkin(QPainter& painter, const QRect& rect, const QPixmap& skin, int part) {
+    const int parts = qRound(skin.deviceIndependentSize().width()) / GoldButton::skinStep;
+    const int left = (part < parts ? part : 0) * GoldButton::skinStep;
+    const double scale = skin.devicePixelRatio();
+    const auto copy = [&](QRect target, QRect source) {
+        source.translate(left, 0);
+        source.setSize(target.size());
+        painter.drawPixmap(
+            QRectF(target), skin,
+            QRectF(QPointF(source.topLeft()) * scale, QSizeF(source.size()) * scale));
+    };
+    const int right = rect.width() - skinBorder;
+    const int bottom = rect.height() - skinBorder;
+    for (int x = skinBorder; x < right; x += skinPiece) {
+        const int length = std::min(skinPiece, right - x);
+        copy({x, 0, length, skinBorder}, {skinBorder, 0, 0, 0});
+        copy({x, bottom, length, skinBorder}, {skinBorder, skinFar, 0, 0});
+    }
+    for (int y = skinBorder; y < bottom; y += skinPiece) {
+        const int length = std::min(skinPiece, bottom - y);
+        copy({0, y, skinBorder, length}, {0, skinBorder, 0, 0});
+        copy({right, y, skinBorder, length}, {skinFar, skinBorder, 0, 0});
+    }
+    for (const bool far : {false, true}) {
+        copy({far ? right : 0, 0, skinBorder, skinBorder}, {far ? skinFar : 0, 0, 0, 0});
+        copy({far ? right : 0, bottom, skinBorder, skinBorder}, {far ? skinFar : 0, skinFar, 0, 0});
+    }
+}
+
+QPixmap Masked(const QPixmap& picture, const PictureMask& mask) {
+    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            if (line[x] == mask.colour.rgba())
+                line[x] = mask.replacement.rgba();
+    }
+    return QPixmap::fromImage(image);
+}
+
+void PaintPicture(QPainter& painter, const QRect& place, const GoldButtonLook& look) {
+    const double scale = painter.device()->devicePixelRatioF();
+    const auto mode = look.faded ? QIcon::Disabled : QIcon::Normal;
+    const QPixmap picture = look.picture.pixmap(place.size(), scale, mode);
+    painter.drawPixmap(place, look.mask ? Masked(picture, *look.mask) : picture);
+}
+
+void PaintCaption(QPainter& painter, const QRect& place, const GoldButtonLook& look) {
+    const int flags = captionFlags | Qt::AlignVCenter | Qt::AlignLeft;
+    if (look.captionHighlight) {
+        painter.setPen(*look.captionHighlight);
+        painter.drawText(place.translated(1, 1), flags, look.caption);
+    }
+    painter.setPen(look.captionColour);
+    painter.drawText(place, flags, look.caption);
+}
+
+} // namespace
+
+QSize GoldButtonSize(const QString& caption, QSize picture, const QFontMetrics& metrics) {
+    QSize size(0, metrics.height());
+    if (!caption.isEmpty())
+        size = metrics.size(captionFlags, caption);
+    if (picture.isValid()) {
+        size.rwidth() += picture.width() + (caption.isEmpty() ? 0 : pictureGap);
+        size.setHeight(std::max(size.height(), picture.height()));
+    }
+    return size + QSize(2 * marginX, 2 * marginY);
+}
+
+void PaintGoldButton(QPainter& painter, const GoldButtonLook& look) {
+    painter.fillRect(look.rect, look.palette.color(QPalette::Button));
+    if (look.skinned && !look.skin.isNull())
+        PaintSkin(painter, look.rect, look.skin, look.part);
+    else
+        PaintEdge(painter, look.rect, look.edge, look.palette);
+
+    const QFontMetrics metrics(painter.font());
+    const QSize content =
+        GoldButtonSize(look.caption, look.pictureSize, metrics) - QSize(2 * marginX, 2 * marginY);
+    const QRect inner = look.rect.adjusted(marginX, 0, -marginX, 0);
+    int x = inner.left() + (inner.width() - content.width()) / 2;
+    if (look.alignment == 0)
+        x = inner.left();
+    else if (look.alignment == 1)
+        x = inner.right() + 1 - content.width();
+    if (look.pictureSize.isValid()) {
+        const QRect place({x, (look.rect.height() - look.pictureSize.height()) / 2},
+                          look.pictureSize);
+        PaintPicture(painter, place, look);
+        x += look.pictureSize.width() + pictureGap;
+    }
+    PaintCaption(painter, QRect(x, 0, look.rect.right() - x, look.rect.height()), look);
+    if (look.focused) {
+        painter.setPen(QPen(Colours::focus, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(look.rect.adjusted(2, 2, -3, -3));
+    }
+}

@@ -1,0 +1,22 @@
+#include "controls/hotlabel.h"
+
+#include <QMouseEvent>
+
+HotLabel::HotLabel(const QString& name, QWidget* parent) : QLabel(parent) {
+    setObjectName(name);
+    setMouseTracking(true);
+    setAlignment(Qt::AlignCenter);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void HotLabel::mousePressEvent(QMouseEvent* event) {
+    Q_EMIT MouseDown(event->button());
+}
+
+void HotLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void HotLabel::mouseMoveEvent(QMouseEvent*) {
+    Q_EMIT MouseMove();
+}

@@ -1,0 +1,290 @@
+#include "controls/icons.h"
+
+#include "controls/colours.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr double unitSquare = 24; // Every drawing is made on a square of this side.
+
+QPen Line(const QColor& colour = Colours::text, double width = 1.8) {
+    return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+void Fill(QPainter& painter, const QColor& colour = Colours::selection) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+}
+
+void Stroke(QPainter& painter, const QColor& colour = Colours::text) {
+    painter.setPen(Line(colour));
+    painter.setBrush(Qt::NoBrush);
+}
+
+void Strokes(QPainter& painter, std::initializer_list<QLineF> lines) {
+    for (const QLineF& line : lines)
+        painter.drawLine(line);
+}
+
+// Three white keys with two black ones.
+void PaintKeys(QPainter& painter, const QRectF& area) {
+    Stroke(painter);
+    painter.drawRoundedRect(area, 1.5, 1.5);
+    const double step = area.width() / 3;
+    Strokes(painter,
+            {{area.left() + step, area.center().y(), area.left() + step, area.bottom()},
+             {area.left() + 2 * step, area.center().y(), area.left() + 2 * step, area.bottom()}});
+    Fill(painter, Colours::text);
+    for (const int key : {1, 2})
+        painter.drawRect(
+            QRectF(area.left() + key * step - 1.3, area.top(), 2.6, area.height() * 0.58));
+}
+
+// Three strings over two frets.
+void PaintStrings(QPainter& painter, const QRectF& area) {
+    Stroke(painter);
+    for (const double part : {0.0, 0.5, 1.0}) {
+        const double y = area.top() + part * area.height();
+        painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
+    }
+    for (const double part : {0.12, 0.62}) {
+        const double x = area.left() + part * area.width();
+        painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+    }
+}
+
+void PaintTriangle(QPainter& painter, QPointF tip, double size) {
+    Fill(painter);
+    painter.drawPolygon(
+        QPolygonF{tip, tip - QPointF(size, -size * 0.7), tip - QPointF(size, size * 0.7)});
+}
+
+void PaintArrow(QPainter& painter, QPointF from, QPointF to) {
+    Stroke(painter, Colours::selection);
+    painter.drawLine(from, to);
+    const double down = to.y() > from.y() ? 1 : -1;
+    Strokes(painter, {QLineF(to, to + QPointF(-2.6, -2.8 * down)),
+                      QLineF(to, to + QPointF(2.6, -2.8 * down))});
+}
+
+void PaintSheet(QPainter& painter, const QRectF& area) {
+    Stroke(painter);
+    QPainterPath sheet;
+    const double fold = 4;
+    sheet.moveTo(area.topLeft());
+    sheet.lineTo(area.right() - fold, area.top());
+    sheet.lineTo(area.right(), area.top() + fold);
+    sheet.lineTo(area.bottomRight());
+    sheet.lineTo(area.bottomLeft());
+    sheet.closeSubpath();
+    painter.drawPath(sheet);
+}
+
+void PaintText(QPainter& painter, const QString& text, const QRectF& area) {
+    QFont font = painter.font();
+    font.setPixelSize(static_cast<int>(area.height()));
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Colours::selection);
+    painter.drawText(area, Qt::AlignCenter, text);
+}
+
+void PaintFindPicture(QPainter& painter) {
+    Stroke(painter);
+    painter.drawEllipse(QPointF(10.5, 10.5), 6, 6);
+    painter.setPen(Line(Colours::selection, 2.6));
+    painter.drawLine(QPointF(15.2, 15.2), QPointF(20, 20));
+}
+
+void PaintNameChord(QPainter& painter) {
+    PaintKeys(painter, {2.5, 9, 13, 12.5});
+    PaintText(painter, QStringLiteral("?"), {13, 1, 11, 14});
+}
+
+void PaintHelp(QPainter& painter) {
+    Stroke(painter);
+    painter.drawEllipse(QPointF(12, 12), 9, 9);
+    PaintText(painter, QStringLiteral("?"), {5, 5, 14, 14});
+}
+
+void PaintSettings(QPainter& painter) {
+    Stroke(painter);
+    Strokes(painter, {{4, 6, 20, 6}, {4, 12, 20, 12}, {4, 18, 20, 18}});
+    Fill(painter);
+    for (const QPointF knob : {QPointF(9, 6), QPointF(16, 12), QPointF(7, 18)})
+        painter.drawEllipse(knob, 2.6, 2.6);
+}
+
+void PaintListen(QPainter& painter) {
+    Fill(painter, Colours::text);
+    painter.drawPolygon(QPolygonF{{3, 9}, {7, 9}, {12, 4.5}, {12, 19.5}, {7, 15}, {3, 15}});
+    Stroke(painter, Colours::selection);
+    painter.drawArc(QRectF(10.5, 8, 7, 8), -60 * 16, 120 * 16);
+    painter.drawArc(QRectF(10.5, 4.5, 11, 15), -60 * 16, 120 * 16);
+}
+
+void PaintClear(QPainter& painter) {
+    Stroke(painter);
+    Strokes(painter, {{5, 7, 19, 7}, {9.5, 7, 10, 4.5}, {10, 4.5, 14, 4.5}, {14, 4.5, 14.5, 7}});
+    painter.drawPolyline(QPolygonF{{6.5, 7}, {7.5, 20}, {16.5, 20}, {17.5, 7}});
+    Stroke(painter, Colours::selection);
+    Strokes(painter, {{10.2, 10.5, 10.5, 16.8}, {13.8, 10.5, 13.5, 16.8}});
+}
+
+void PaintCut(QPainter& painter) {
+    Stroke(painter);
+    Strokes(painter, {{7, 4, 15, 16}, {17, 4, 9, 16}});
+    Stroke(painter, Colours::selection);
+    painter.drawEllipse(QPointF(7.2, 18.3), 2.6, 2.6);
+    painter.drawEllipse(QPointF(16.8, 18.3), 2.6, 2.6);
+}
+
+void PaintCopy(QPainter& painter) {
+    PaintSheet(painter, {4, 3.5, 10, 13});
+    painter.setBrush(Colours::buttonFace);
+    painter.drawRoundedRect(QRectF(9.5, 7.5, 10, 13), 1, 1);
+    Stroke(painter, Colours::selection);
+    Strokes(painter, {{12, 12, 17, 12}, {12, 16, 17, 16}});
+}
+
+void PaintPaste(QPainter& painter) {
+    Stroke(painter);
+    painter.drawRoundedRect(QRectF(5, 5, 14, 15.5), 1.5, 1.5);
+    Fill(painter, Colours::text);
+    painter.drawRoundedRect(QRectF(9, 3, 6, 4), 1, 1);
+    PaintArrow(painter, {12, 9.5}, {12, 17.5});
+}
+
+void PaintOpen(QPainter& painter) {
+    Stroke(painter);
+    painter.drawPolyline(QPolygonF{{3.5, 19}, {3.5, 5.5}, {9, 5.5}, {11, 8}, {18, 8}, {18, 11}});
+    Stroke(painter, Colours::selection);
+    painter.drawPolygon(QPolygonF{{3.5, 19}, {7, 11}, {21.5, 11}, {18, 19}});
+}
+
+void PaintSave(QPainter& painter) {
+    Stroke(painter);
+    painter.drawPolygon(QPolygonF{{4, 4}, {17, 4}, {20, 7}, {20, 20}, {4, 20}});
+    painter.drawRect(QRectF(8, 4, 7, 5));
+    Stroke(painter, Colours::selection);
+    painter.drawRect(QRectF(7.5, 12.5, 9, 7.5));
+}
+
+void PaintPlusOrMinus(QPainter& painter, bool plus) {
+    PaintSheet(painter, {4, 3.5, 12, 16});
+    Fill(painter);
+    painter.drawEllipse(QPointF(16.5, 16.5), 5.5, 5.5);
+    painter.setPen(Line(Colours::selectionText, 1.9));
+    painter.drawLine(QPointF(13.7, 16.5), QPointF(19.3, 16.5));
+    if (plus)
+        painter.drawLine(QPointF(16.5, 13.7), QPointF(16.5, 19.3));
+}
+
+void PaintDashes(QPainter& painter) {
+    Stroke(painter);
+    QPen pen = Line(Colours::text, 1.3);
+    pen.setDashPattern({2.2, 2.0});
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    for (int line = 0; line < 6; ++line)
+        painter.drawLine(QPointF(3, 4 + 3.2 * line), QPointF(21, 4 + 3.2 * line));
+}
+
+void Paint(QPainter& painter, Icon icon) {
+    switch (icon) {
+    case Icon::Find:
+        return PaintFindPicture(painter);
+    case Icon::NameChord:
+        return PaintNameChord(painter);
+    case Icon::PlayKeys:
+        PaintKeys(painter, {2.5, 5, 11, 14});
+        return PaintTriangle(painter, {22.5, 12}, 6.5);
+    case Icon::PlayStrings:
+        PaintStrings(painter, {2, 6, 12, 12});
+        return PaintTriangle(painter, {22.5, 12}, 6.5);
+    case Icon::Stop:
+        Fill(painter);
+        return painter.drawRoundedRect(QRectF(6, 6, 12, 12), 1.5, 1.5);
+    case Icon::LayFingers:
+        PaintStrings(painter, {2.5, 3, 12, 8});
+        PaintKeys(painter, {2.5, 14, 12, 8});
+        return PaintArrow(painter, {19.5, 20}, {19.5, 5});
+    case Icon::ReadFingers:
+        PaintStrings(painter, {2.5, 3, 12, 8});
+        PaintKeys(painter, {2.5, 14, 12, 8});
+        return PaintArrow(painter, {19.5, 4}, {19.5, 19});
+    case Icon::Diagrams:
+        PaintSheet(painter, {4.5, 3, 15, 18});
+        Stroke(painter, Colours::selection);
+        return Strokes(painter, {{8, 9, 12, 9}, {8, 13, 16, 13}, {8, 17, 16, 17}});
+    case Icon::Settings:
+        return PaintSettings(painter);
+    case Icon::Help:
+        return PaintHelp(painter);
+    case Icon::Listen:
+        return PaintListen(painter);
+    case Icon::Add:
+        return PaintPlusOrMinus(painter, true);
+    case Icon::Remove:
+        return PaintPlusOrMinus(painter, false);
+    case Icon::Clear:
+        return PaintClear(painter);
+    case Icon::WriteList:
+        Stroke(painter);
+        Strokes(painter, {{3, 6, 10, 6}, {3, 12, 10, 12}, {3, 18, 10, 18}});
+        PaintSheet(painter, {15, 4, 7, 16});
+        Stroke(painter, Colours::selection);
+        return Strokes(painter, {{11.5, 12, 18.5, 12}, {18.5, 12, 16, 9.5}, {18.5, 12, 16, 14.5}});
+    case Icon::Cut:
+        return PaintCut(painter);
+    case Icon::Copy:
+        return PaintCopy(painter);
+    case Icon::Paste:
+        return PaintPaste(painter);
+    case Icon::Open:
+        return PaintOpen(painter);
+    case Icon::Save:
+        return PaintSave(painter);
+    case Icon::Dashes:
+        return PaintDashes(painter);
+    }
+}
+
+class Engine : public QIconEngine {
+public:
+    explicit Engine(Icon icon) : m_icon(icon) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setOpacity(mode == QIcon::Disabled ? 0.4 : 1);
+        painter->translate(rect.topLeft());
+        painter->scale(rect.width() / unitSquare, rect.height() / unitSquare);
+        Paint(*painter, m_icon);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
+    }
+
+    bool isNull() override { return false; }
+
+    QIconEngine* clone() const override { return new Engine(m_icon); }
+
+private:
+    Icon m_icon;
+};
+
+} // namespace
+
+QIcon MakeIcon(Icon icon) {
+    return QIcon(new Engine(icon));
+}

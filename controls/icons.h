@@ -1,0 +1,30 @@
+// The pictures on the buttons: one family of line drawings, sharp at every size.
+#pragma once
+
+#include <QIcon>
+
+enum class Icon {
+    Find,
+    NameChord,
+    PlayKeys,
+    PlayStrings,
+    Stop,
+    LayFingers,
+    ReadFingers,
+    Diagrams,
+    Settings,
+    Help,
+    Listen,
+    Add,
+    Remove,
+    Clear,
+    WriteList,
+    Cut,
+    Copy,
+    Paste,
+    Open,
+    Save,
+    Dashes,
+};
+
+QIcon MakeIcon(Icon icon);

@@ -1,0 +1,75 @@
+#include "core/mdlmain.h"
+
+#include "controls/application.h"
+#include "core/language.h"
+#include "core/settings.h"
+#include "info/frmsplash.h"
+
+#include <QDir>
+#include <QMessageBox>
+
+QString FolderPath(const QString& folder) {
+    const QChar separator = QDir::separator();
+    const QString path = QDir::toNativeSeparators(folder);
+    return path.endsWith(separator) ? path : path + separator;
+}
+
+mdlMain::mdlMain(Application& application, const QString& folder)
+    : m_application(application), m_splash(std::make_unique<frmSplash>()) {
+    m_state.AppPath = FolderPath(folder);
+}
+
+mdlMain::~mdlMain() = default;
+
+void mdlMain::Main() {
+    m_splash->show();
+    QApplication::processEvents();
+    m_midi = std::make_unique<MidiAPI>(m_state.AppPath);
+    m_workbench = std::make_unique<Workbench>(m_state);
+    m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, m_clock);
+    m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
+    m_splash->ProgressStep();
+    m_window->ShowTypes();
+    LoadLanguage();
+    m_splash->ProgressStep();
+    m_window->ShowRoots();
+    m_state.Scales.AppendDataFile(m_state.AppPath + QStringLiteral("scales.dat"));
+    m_splash->ProgressStep();
+    m_window->ShowScales();
+    m_state.Tunings.AppendDataFile(m_state.AppPath + QStringLiteral("tunings.dat"));
+    m_splash->ProgressStep();
+    m_workbench->SaveKeyColours();
+    LoadStartUpSettings(m_state);
+    m_workbench->StringsChanged();
+    if (m_state.IsDefaultLanguage()) {
+        m_window->FillBuiltInLists();
+        m_state.UiText = BuiltInUiTexts();
+    } else {
+        m_window->setWindowTitle(QStringLiteral("Tonvik"));
+    }
+    m_window->SelectDefaults();
+    m_splash->ProgressStep();
+    m_splash.reset();
+    ConnectWindows();
+    m_window->OpenAtBestSize();
+    m_window->show();
+}
+
+void mdlMain::LoadLanguage() {
+    const LanguageChoice choice = ChooseLanguage(m_state);
+    m_application.SetTongue(m_state.InterfaceTongue());
+    if (choice == LanguageChoice::FileMissing)
+        QMessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
+                    QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
+                                   "отсутствует!"),
+                    QMessageBox::Ok)
+            .exec();
+    if (choice == LanguageChoice::File) {
+        m_window->ApplyLanguage(LanguageTexts(m_state.LanguageFile));
+        m_window->ApplyTongue();
+    }
+}
+
+void mdlMain::ConnectWindows() {
+    m_application.SetEnd([this] { m_window->close(); });
+}

@@ -1,0 +1,42 @@
+// The start-up routine: builds the state and the windows, in an order that matters.
+#pragma once
+
+#include "core/appstate.h"
+#include "workbench/eventclock.h"
+#include "workbench/frmmain.h"
+#include "workbench/midiapi.h"
+#include "workbench/workbench.h"
+
+#include <memory>
+
+class Application;
+class frmSplash;
+
+class mdlMain {
+public:
+    // folder: where the executable lies; the program's folder from now on.
+    mdlMain(Application& application, const QString& folder);
+    ~mdlMain();
+
+    // Shows the splash, loads everything, shows the main window. A step that fails throws
+    // its run-time error; the program cannot go on then.
+    void Main();
+
+    frmMain& Window() { return *m_window; }
+    AppState& State() { return m_state; }
+
+private:
+    void LoadLanguage();
+    void ConnectWindows();
+
+    Application& m_application;
+    AppState m_state;
+    EventClock m_clock;
+    std::unique_ptr<MidiAPI> m_midi;
+    std::unique_ptr<Workbench> m_workbench;
+    std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<frmSplash> m_splash;
+};
+
+// The folder's text with a separator at its end, which a drive's root has already.
+QString FolderPath(const QString& folder);

@@ -1,0 +1,20 @@
+// The program's entry.
+#include "controls/application.h"
+#include "core/mdlmain.h"
+#include "core/runtimeerror.h"
+
+#include <cstdlib>
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    application.setApplicationName(QStringLiteral("tonvik"));
+    application.setDesktopFileName(QStringLiteral("tonvik"));
+    mdlMain start(application, QCoreApplication::applicationDirPath());
+    try {
+        start.Main();
+    } catch (const RunTimeError& error) {
+        application.ReportAtStart(error);
+        return EXIT_FAILURE;
+    }
+    return QApplication::exec();
+}

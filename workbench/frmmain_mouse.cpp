@@ -1,0 +1,82 @@
+// The main window's mouse: presses on the pictures and labels, and what lights up under the
+// pointer.
+#include "workbench/frmmain.h"
+
+#include "workbench/fretboardlayout.h"
+#include "workbench/keyboardlayout.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
+    if (button == Qt::RightButton) {
+        DoQuietly([&] { m_workbench.ClearFretboard(); });
+        return;
+    }
+    if (m_workbench.GrabsBarre(place.x())) {
+        BarreDragging = true;
+        return;
+    }
+    DoQuietly([&] {
+        m_workbench.PressString(FretboardLayout::RowAt(place.y()),
+                                FretboardLayout::FretAt(place.x()));
+    });
+}
+
+void frmMain::picStrings_MouseMove(QPointF place) {
+    Form_MouseMove();
+    if (BarreDragging)
+        DoQuietly([&] { m_workbench.DragBarre(place.x()); });
+}
+
+void frmMain::picStrings_MouseUp() {
+    BarreDragging = false;
+}
+
+void frmMain::picKeyboard_MouseDown(Qt::MouseButton button, QPointF place) {
+    if (button != Qt::LeftButton)
+        Do([&] { m_workbench.ClearKeyMarks(); });
+    else if (const auto key = KeyboardLayout::KeyAt(place))
+        Do([&] { m_workbench.ToggleKey(*key); });
+}
+
+void frmMain::picKeyboard_MouseMove() {
+    m_fretLabelLit = false;
+    ShowHighlights();
+}
+
+void frmMain::Label3_Click(int index) {
+    DoQuietly([&] { m_workbench.PressFretNumber(index + 1); });
+}
+
+void frmMain::Label3_MouseMove(int index) {
+    LastFretLabel = index;
+    m_fretLabelLit = true;
+    m_stringLabelLit = false;
+    ShowHighlights();
+}
+
+void frmMain::Label6_MouseDown(int index, Qt::MouseButton button) {
+    if (button == Qt::RightButton) {
+        DoQuietly([&] { m_workbench.ToggleMute(index); });
+        return;
+    }
+    txtStr->setText(QString::number(index + 1));
+    DoQuietly([&] { m_workbench.FindNextFret(txtStr->text()); });
+}
+
+void frmMain::Label6_MouseMove(int index) {
+    LastStringLabel = index;
+    m_stringLabelLit = true;
+    ShowHighlights();
+}
+
+void frmMain::Form_MouseMove() {
+    m_fretLabelLit = false;
+    m_stringLabelLit = false;
+    ShowHighlights();
+}
+
+void frmMain::mouseMoveEvent(QMouseEvent*) {
+    Form_MouseMove();
+}

@@ -1,0 +1,129 @@
+// The main window's texts: built-in Russian, a language file's, and those of our own.
+#include "workbench/frmmain.h"
+
+#include "core/language.h"
+
+namespace {
+
+const QString mainSection = QStringLiteral("Main");
+
+struct Hint {
+    const char16_t* control;
+    const char16_t* russian;
+    const char16_t* english;
+};
+
+// Tool tips; they are the accessible names of controls without a caption, too.
+constexpr std::array hints{
+    Hint{u"lstBase", u"Основной тон", u"Root note"},
+    Hint{u"lstType", u"Тип аккорда", u"Chord type"},
+    Hint{u"lstLad", u"Лад (гамма)", u"Scale"},
+    Hint{u"txtFind", u"Тип аккорда, который нужно найти", u"Chord type to look for"},
+    Hint{u"cmdFind", u"Найти тип аккорда (F3)", u"Find the chord type (F3)"},
+    Hint{u"cmdFindChord", u"Назвать аккорд по нажатым клавишам (Shift+F3)",
+         u"Name the chord of the marked keys (Shift+F3)"},
+    Hint{u"picStrings", u"Гриф: щелчок ставит палец, правая кнопка снимает всё",
+         u"Fretboard: click to set a finger, right click to clear"},
+    Hint{u"picKeyboard", u"Клавиатура: щелчок отмечает ноту, правая кнопка снимает все отметки",
+         u"Keyboard: click to mark a note, right click to clear all marks"},
+    Hint{u"txtStr", u"Номер ряда, снизу вверх: от 1 до 6",
+         u"Row of the string, from the bottom: 1 to 6"},
+    Hint{u"VScroll3", u"Выбор струны", u"Choose the string"},
+    Hint{u"cmdFindNew", u"Следующий лад с нотой аккорда на этой струне (F4)",
+         u"Next fret with a chord note on this string (F4)"},
+    Hint{u"cmdMakeBarre", u"Поставить или снять барре (F2)", u"Set or lift the barre (F2)"},
+    Hint{u"lstBarre", u"Сколько струн прижимает барре", u"How many strings the barre covers"},
+    Hint{u"lstLadBarre", u"Лад барре (Shift+стрелки)", u"Fret of the barre (Shift+arrows)"},
+    Hint{u"Command1", u"Разложить отмеченные ноты по струнам (F8)",
+         u"Lay the marked notes onto the strings (F8)"},
+    Hint{u"Command2", u"Перенести ноты струн на клавиатуру (F9)",
+         u"Mark the strings' notes on the keyboard (F9)"},
+    Hint{u"GoldButton1", u"Сыграть отмеченные клавиши (F5)", u"Play the marked keys (F5)"},
+    Hint{u"GoldButton2", u"Сыграть струны (F6)", u"Play the strings (F6)"},
+    Hint{u"GoldButton3", u"Остановить проигрывание (F7)", u"Stop playing (F7)"},
+    Hint{u"lstWhat", u"Темп", u"Pace"},
+    Hint{u"lstTemp", u"Повторение", u"Repetition"},
+    Hint{u"cmdNewDiag", u"Диаграммы аккордов", u"Chord diagrams"},
+    Hint{u"cmdSettings", u"Настройки (F10)", u"Settings (F10)"},
+    Hint{u"cmdHelp", u"Помощь (F1)", u"Help (F1)"},
+};
+
+QStringList Numbered(const QString& word) {
+    QStringList texts;
+    for (int fret = 1; fret <= barreFrets; ++fret)
+        texts += QString::number(fret) + u' ' + word;
+    return texts;
+}
+
+QString In(Tongue tongue, const char16_t* russian, const char16_t* english) {
+    return QString::fromUtf16(tongue == Tongue::Russian ? russian : english);
+}
+
+} // namespace
+
+void frmMain::ShowBuiltInTexts() {
+    setWindowTitle(QStringLiteral("Тонвик"));
+    Frame1->setTitle(QStringLiteral("Аккорд/лад:"));
+    Frame2->setTitle(QStringLiteral("Подбор комбинации:"));
+    Frame5->setTitle(QStringLiteral("Дополнительно:"));
+    Label5->setText(QStringLiteral("Лад:"));
+    Label2->setText(QStringLiteral("Нажаты клавиши:"));
+    Label7->setText(QStringLiteral("Недостающие звуки:"));
+    cmdFindNew->SetCaption(QStringLiteral("Изменить"));
+    cmdMakeBarre->SetCaption(QStringLiteral("Барре"));
+    GoldButton3->SetCaption(QStringLiteral("Остановить"));
+}
+
+void frmMain::FillBuiltInLists() {
+    lstBarre->SetTexts({QStringLiteral("1 струна"), QStringLiteral("2 струны"),
+                        QStringLiteral("3 струны"), QStringLiteral("4 струны"),
+                        QStringLiteral("5 струн"), QStringLiteral("6 струн")});
+    lstBarre->SelectRow(stringCount - 1);
+    lstLadBarre->SetTexts(Numbered(QStringLiteral("лад")));
+    lstLadBarre->SelectRow(0);
+    lstWhat->SetTexts({QStringLiteral("медленно"), QStringLiteral("быстро")});
+    lstTemp->SetTexts({QStringLiteral("1 раз"), QStringLiteral("цикл")});
+}
+
+void frmMain::ApplyLanguage(const LanguageTexts& texts) {
+    const auto text = [&](int key) { return texts.Text(mainSection, key); };
+    Frame1->setTitle(text(1));
+    Frame2->setTitle(text(2));
+    Frame5->setTitle(text(3));
+    Label5->setText(text(4));
+    cmdFindNew->SetCaption(text(5));
+    GoldButton3->SetCaption(text(7));
+    QStringList counts;
+    for (int key = 8; key <= 13; ++key)
+        counts += text(key);
+    lstBarre->SetTexts(counts);
+    lstBarre->SelectRow(stringCount - 1);
+    lstLadBarre->SetTexts(Numbered(text(14)));
+    lstLadBarre->SelectRow(0);
+    lstWhat->SetTexts({text(16), text(15)}); // Slow has the higher key.
+    lstTemp->SetTexts({text(17), text(18)});
+    cmdMakeBarre->SetCaption(text(6));
+    m_state.UiText.NoSuchChordType = text(19);
+    Label7->setText(text(23));
+    m_state.UiText.StructureExists = text(20);
+    m_state.UiText.AltNamesLabel = text(21);
+    m_state.UiText.Attention = text(22);
+    Label2->setText(text(20)); // The key serves twice.
+}
+
+void frmMain::ApplyTongue() {
+    const Tongue tongue = m_state.InterfaceTongue();
+    for (const Hint& hint : hints) {
+        auto* control = findChild<QWidget*>(QString::fromUtf16(hint.control));
+        const QString text = In(tongue, hint.russian, hint.english);
+        control->setToolTip(text);
+        control->setAccessibleName(text);
+    }
+    for (GoldButton* captioned : {cmdFindNew, cmdMakeBarre, GoldButton3}) {
+        captioned->setAccessibleDescription(captioned->accessibleName());
+        captioned->setAccessibleName(captioned->Caption());
+    }
+    Frame3->setAccessibleName(In(tongue, u"Барре", u"Barre"));
+    Frame4->setAccessibleName(In(tongue, u"Звук", u"Sound"));
+    txtFind->setText(In(tongue, u"Введите тип аккорда", u"Enter a chord type"));
+}

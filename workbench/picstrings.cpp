@@ -1,0 +1,41 @@
+#include "workbench/picstrings.h"
+
+#include "controls/colours.h"
+#include "workbench/neckpainting.h"
+
+#include <QPainter>
+
+PicStrings::PicStrings(QWidget* parent)
+    : TwipPicture(QStringLiteral("picStrings"), FretboardLayout::size, parent) {
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void PicStrings::Show(const FretboardView& view) {
+    if (view == m_view)
+        return;
+    if (view.thinStringAtBottom != m_view.thinStringAtBottom)
+        m_neck = {};
+    m_view = view;
+    update();
+}
+
+void PicStrings::paintEvent(QPaintEvent*) {
+    const QSize pixels = size() * devicePixelRatio();
+    if (m_neck.size() != pixels) {
+        m_neck = QPixmap(pixels);
+        m_neck.setDevicePixelRatio(devicePixelRatio());
+        QPainter painter(&m_neck);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(Scale(), Scale());
+        PaintNeck(painter, m_view.thinStringAtBottom);
+    }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_neck);
+    if (hasFocus()) {
+        painter.setPen(QPen(Colours::focus, 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(Scale(), Scale());
+    PaintMarks(painter, m_view);
+}

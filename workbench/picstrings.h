@@ -1,0 +1,32 @@
+// The fretboard on the screen: neck, strings, finger marks and barre.
+#pragma once
+
+#include "controls/twippicture.h"
+#include "workbench/fretboardlayout.h"
+
+#include <QPixmap>
+
+// What the picture shows, row 0 the lowest.
+struct FretboardView {
+    std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
+    std::array<bool, stringCount> muted{};
+    std::optional<Barre> barre;
+    std::optional<int> soundingRow;
+    bool thinStringAtBottom = true;
+
+    bool operator==(const FretboardView&) const = default;
+};
+
+class PicStrings : public TwipPicture {
+public:
+    explicit PicStrings(QWidget* parent = nullptr);
+
+    void Show(const FretboardView& view);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    FretboardView m_view;
+    QPixmap m_neck; // What changes only with the size and the order of the strings.
+};
