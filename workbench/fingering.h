@@ -17,6 +17,7 @@ struct Barre {
     int lastRow;
 
     bool Covers(int row) const { return row <= lastRow; }
+    bool operator==(const Barre&) const = default;
 };
 
 // The notes that the rows sound. Empty for a string whose open note is none of the twelve

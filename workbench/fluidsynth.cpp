@@ -65,6 +65,10 @@ bool LoadAny(QLibrary& library) {
     return false;
 }
 
+#ifdef Q_OS_LINUX
+void IgnoreAlsa(const char*, int, const char*, int, const char*, ...) {} // NOLINT(cert-dcl50-cpp)
+#endif
+
 // Sound hardware that is missing is silence, not a message on the terminal.
 void SilenceMessages(const FluidSynthLibrary& synth) {
     for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
@@ -75,7 +79,7 @@ void SilenceMessages(const FluidSynthLibrary& synth) {
     using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
     using SetHandler = int (*)(Handler);
     if (const auto set = reinterpret_cast<SetHandler>(alsa.resolve("snd_lib_error_set_handler")))
-        set([](const char*, int, const char*, int, const char*, ...) {});
+        set(&IgnoreAlsa);
 #endif
 }
 
