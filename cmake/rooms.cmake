@@ -29,6 +29,7 @@ endfunction()
 function(tonvik_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${TEST_LINK} Qt6::Test tonvik_flags)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES

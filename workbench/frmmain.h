@@ -40,6 +40,9 @@ public:
     // Writes the whole state into the controls and repaints what changed.
     void ShowState();
 
+    // Runs a command and shows what it did, also when a run-time error ends it.
+    void Do(const std::function<void()>& command);
+
     // At the largest scale, in steps of a half, that leaves a fifth of the screen free.
     void OpenAtBestSize();
 
@@ -136,9 +139,6 @@ private:
     void ShowInstruments();
     void ShowNotes();
     void ShowHighlights();
-
-    // Runs a command and shows what it did, also when a run-time error ends it.
-    void Do(const std::function<void()>& command);
 
     // The same for the commands of the fretboard, which ignore a run-time error.
     void DoQuietly(const std::function<void()>& command);

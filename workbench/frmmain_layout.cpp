@@ -4,6 +4,7 @@
 
 #include "controls/colours.h"
 #include "controls/icons.h"
+#include "controls/upscrollbar.h"
 #include "workbench/spelling.h"
 
 #include <QBoxLayout>
@@ -71,8 +72,7 @@ void frmMain::CreateControls() {
     Frame2 = Frame(u"Frame2", this);
     txtStr = new QLineEdit(QStringLiteral("1"), Frame2);
     txtStr->setObjectName(QStringLiteral("txtStr"));
-    VScroll3 = new QScrollBar(Qt::Vertical, Frame2);
-    VScroll3->setObjectName(QStringLiteral("VScroll3"));
+    VScroll3 = new UpScrollBar(QStringLiteral("VScroll3"), 1, stringCount, Frame2);
     cmdFindNew = CaptionButton(u"cmdFindNew", Frame2);
     Frame3 = Frame(u"Frame3", this);
     cmdMakeBarre = CaptionButton(u"cmdMakeBarre", Frame3);
@@ -147,9 +147,6 @@ void frmMain::LayOut() {
     see->addLayout(notes);
 
     auto* tryOut = Spaced(new QGridLayout(Frame2), gap);
-    VScroll3->setRange(1, stringCount);
-    VScroll3->setPageStep(1);
-    VScroll3->setInvertedAppearance(true);
     txtStr->setMaximumWidth(letter * 5);
     txtStr->setAlignment(Qt::AlignHCenter);
     VScroll3->setFixedHeight(std::max(txtStr->sizeHint().height(), 34));
