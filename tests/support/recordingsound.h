@@ -13,13 +13,13 @@ class HandClock : public Clock {
 public:
     double Now() const override { return now; }
     void WaitUntil(double seconds) override {
-        const double due = seconds;
         if (onWait)
             onWait();
-        now = std::max(now, due);
+        now = std::max(now, seconds) + late;
     }
 
     double now = 100;
+    double late = 0; // How long after the moment a wait comes back.
     std::function<void()> onWait; // Events that come in during a wait.
 };
 

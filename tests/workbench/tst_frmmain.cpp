@@ -5,7 +5,6 @@
 #include "support/dialogs.h"
 #include "support/mainwindow.h"
 
-
 namespace {
 
 QPointF Crossing(int row, int fret) {

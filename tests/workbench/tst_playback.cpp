@@ -1,0 +1,235 @@
+// Playback through a recorder and a clock moved by hand: no test waits.
+#include "core/settings.h"
+#include "support/recordingsound.h"
+#include "workbench/workbench.h"
+
+#include <QTest>
+
+class tst_Playback : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void KeysAscending();
+    void PaceIsReadOnce_data();
+    void PaceIsReadOnce();
+    void StringsFromThickToThin_data();
+    void StringsFromThickToThin();
+    void FingersAndBarre();
+    void MutedStringsAreSilent();
+    void RepeatsUntilStopped();
+    void StopFinishesThePass();
+    void EmptyPassWaits();
+    void EmptyPassOnceDoesNotWait();
+    void NestedPress();
+    void MarksCountWhenTheirTurnComes();
+    void ClosingEndsAtOnce();
+    void SoundingIsShown();
+    void NumbersThatAreNone_data();
+    void NumbersThatAreNone();
+    void StepsDoNotDrift();
+
+private:
+    AppState m_state;
+    HandClock m_clock;
+    std::unique_ptr<RecordingPlayer> m_midi;
+    std::unique_ptr<Workbench> m_bench;
+    std::unique_ptr<Playback> m_playback;
+    bool m_repeats = false;
+};
+
+void tst_Playback::init() {
+    m_state = AppState();
+    LayStrings(m_state, standardStrings, true);
+    m_clock = HandClock();
+    m_midi = std::make_unique<RecordingPlayer>(m_clock);
+    m_bench = std::make_unique<Workbench>(m_state);
+    m_bench->StringsChanged();
+    m_bench->ChooseBarreStrings(5);
+    m_bench->ChooseBarreFret(4);
+    m_repeats = false;
+    m_playback = std::make_unique<Playback>(
+        m_state, *m_midi, m_clock,
+        PlaybackSource{[this](int key) { return m_bench->Keys().IsMarked(key); },
+                       [this](int row) { return m_bench->SoundOfRow(row); },
+                       [this] { return m_bench->ShownBarreFret(); }, [this] { return m_repeats; }});
+}
+
+void tst_Playback::KeysAscending() {
+    for (const int key : {35, 0, 16})
+        m_bench->ToggleKey(key);
+    m_playback->PlayKeys(true);
+    QCOMPARE(m_midi->played.join(u' '), QStringLiteral("keys/0.mid keys/16.mid keys/35.mid"));
+    QCOMPARE(m_midi->times, (QList{100.0, 100.5, 101.0}));
+    QCOMPARE(m_clock.now, 101.5);
+    QCOMPARE(m_midi->closed, 3);
+    QVERIFY(!m_state.IsPlaying);
+}
+
+void tst_Playback::PaceIsReadOnce_data() {
+    QTest::addColumn<bool>("fast");
+    QTest::addColumn<double>("step");
+    QTest::newRow("fast is half a second") << true << 0.5;
+    QTest::newRow("slow is a second") << false << 1.0;
+}
+
+void tst_Playback::PaceIsReadOnce() {
+    QFETCH(const bool, fast);
+    QFETCH(const double, step);
+    m_playback->PlayStrings(fast);
+    QCOMPARE(m_midi->times.size(), 6);
+    for (int i = 0; i < 6; ++i)
+        QCOMPARE(m_midi->times[i], 100 + i * step);
+}
+
+void tst_Playback::StringsFromThickToThin_data() {
+    QTest::addColumn<bool>("thinAtBottom");
+    QTest::newRow("thin string at the bottom") << true;
+    QTest::newRow("thin string at the top") << false;
+}
+
+void tst_Playback::StringsFromThickToThin() {
+    QFETCH(const bool, thinAtBottom);
+    LayStrings(m_state, standardStrings, thinAtBottom);
+    m_playback->PlayStrings(true);
+    QCOMPARE(m_midi->played.join(u' '),
+             QStringLiteral("strings/44.mid strings/39.mid strings/34.mid strings/29.mid "
+                            "strings/25.mid strings/20.mid"));
+}
+
+void tst_Playback::FingersAndBarre() {
+    m_bench->SwitchBarre(); // At fret 5; nothing is marked, so there are no fingers.
+    m_bench->PressString(0, 16);
+    m_bench->PressString(1, std::nullopt); // Off the board: fret 0.
+    m_playback->PlayStrings(true);
+    QCOMPARE(m_midi->played.join(u' '),
+             QStringLiteral("strings/39.mid strings/34.mid strings/29.mid strings/24.mid "
+                            "strings/25.mid strings/4.mid"));
+}
+
+void tst_Playback::MutedStringsAreSilent() {
+    m_bench->ToggleMute(5);
+    m_bench->ToggleMute(2);
+    m_playback->PlayStrings(true);
+    QCOMPARE(m_midi->played.join(u' '),
+             QStringLiteral("strings/39.mid strings/34.mid strings/25.mid strings/20.mid"));
+    QCOMPARE(m_midi->times, (QList{100.0, 100.5, 101.0, 101.5}));
+}
+
+void tst_Playback::RepeatsUntilStopped() {
+    m_repeats = true;
+    m_bench->ToggleKey(3);
+    m_clock.onWait = [this] {
+        QVERIFY(m_state.IsPlaying);
+        if (m_midi->played.size() == 5)
+            m_playback->Stop();
+    };
+    m_playback->PlayKeys(true);
+    // The loop ends with the pass, and the repetition is asked after each.
+    QCOMPARE(m_midi->played.size(), 5);
+    QVERIFY(!m_state.IsPlaying);
+}
+
+void tst_Playback::StopFinishesThePass() {
+    m_repeats = true;
+    m_clock.onWait = [this] { m_playback->Stop(); };
+    m_playback->PlayStrings(true);
+    QCOMPARE(m_midi->played.size(), 6);
+}
+
+void tst_Playback::EmptyPassWaits() {
+    m_repeats = true;
+    int waits = 0;
+    m_clock.onWait = [&] {
+        if (++waits == 3)
+            m_playback->Stop();
+    };
+    m_playback->PlayKeys(false);
+    QCOMPARE(waits, 3);
+    QCOMPARE(m_clock.now, 103.0);
+    QVERIFY(m_midi->played.isEmpty());
+}
+
+void tst_Playback::EmptyPassOnceDoesNotWait() {
+    m_playback->PlayKeys(false);
+    QCOMPARE(m_clock.now, 100.0);
+    QVERIFY(!m_state.IsPlaying);
+}
+
+void tst_Playback::NestedPress() {
+    m_bench->ToggleKey(0);
+    m_bench->ToggleKey(1);
+    bool pressed = false;
+    m_clock.onWait = [&] {
+        if (!std::exchange(pressed, true))
+            m_playback->PlayStrings(true);
+    };
+    m_playback->PlayKeys(true);
+    QCOMPARE(m_midi->played.size(), 8);
+    QCOMPARE(m_midi->played.first(), QStringLiteral("keys/0.mid"));
+    QCOMPARE(m_midi->played[1], QStringLiteral("strings/44.mid"));
+    QCOMPARE(m_midi->played.last(), QStringLiteral("keys/1.mid"));
+    QVERIFY(!m_state.IsPlaying);
+}
+
+void tst_Playback::MarksCountWhenTheirTurnComes() {
+    m_bench->ToggleKey(0);
+    bool marked = false;
+    m_clock.onWait = [&] {
+        if (!std::exchange(marked, true))
+            m_bench->ToggleKey(7);
+    };
+    m_playback->PlayKeys(true);
+    QCOMPARE(m_midi->played.join(u' '), QStringLiteral("keys/0.mid keys/7.mid"));
+}
+
+void tst_Playback::ClosingEndsAtOnce() {
+    m_repeats = true;
+    m_clock.onWait = [this] { m_playback->Abandon(); };
+    m_playback->PlayStrings(true);
+    QCOMPARE(m_midi->played.size(), 1);
+}
+
+void tst_Playback::SoundingIsShown() {
+    QStringList shown;
+    m_playback->SetShow([&] {
+        shown += m_playback->SoundingRow()   ? QString::number(*m_playback->SoundingRow())
+                 : m_playback->SoundingKey() ? u'k' + QString::number(*m_playback->SoundingKey())
+                                             : QStringLiteral("-");
+    });
+    m_playback->PlayStrings(true);
+    m_bench->ToggleKey(9);
+    m_playback->PlayKeys(true);
+    QCOMPARE(shown.join(u' '), QStringLiteral("5 4 3 2 1 0 - k9 -"));
+}
+
+void tst_Playback::NumbersThatAreNone_data() {
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("no number is 0") << QStringLiteral("abc") << QStringLiteral("strings/-3.mid");
+    QTest::newRow("empty is 0") << QString() << QStringLiteral("strings/-3.mid");
+    QTest::newRow("huge") << QStringLiteral("99999999999")
+                          << QStringLiteral("strings/99999999996.mid");
+    QTest::newRow("negative") << QStringLiteral("-40") << QStringLiteral("strings/-43.mid");
+}
+
+void tst_Playback::NumbersThatAreNone() {
+    QFETCH(const QString, number);
+    QFETCH(const QString, file);
+    QCOMPARE(StringSoundFile(QStringLiteral("/x/sounds/../"), number, 3)
+                 .section(QStringLiteral("sounds/"), 2),
+             file);
+}
+
+void tst_Playback::StepsDoNotDrift() {
+    for (int key = 0; key < keyCount; ++key)
+        m_bench->ToggleKey(key);
+    m_clock.late = 0.003; // Every wait comes back late.
+    m_playback->PlayKeys(true);
+    QCOMPARE(m_midi->times.size(), 36);
+    for (int i = 0; i < 36; ++i)
+        QVERIFY(std::abs(m_midi->times[i] - (100 + i * 0.5)) < 0.010);
+}
+
+QTEST_GUILESS_MAIN(tst_Playback)
+#include "tst_playback.moc"
