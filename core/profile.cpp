@@ -44,10 +44,6 @@ bool EndsLine(QStringView line) {
     return line.endsWith(u'\n') || line.endsWith(u'\r');
 }
 
-bool IsComment(QStringView line) {
-    return line.trimmed().startsWith(u';');
-}
-
 QStringView WithoutQuotes(QStringView value) {
     if (value.size() >= 2 && value.front() == value.back() &&
         (value.front() == u'"' || value.front() == u'\''))
@@ -131,7 +127,7 @@ qsizetype ProfileFile::FindKey(qsizetype sectionLine, const QString& key) const 
         if (SectionName(text))
             return -1;
         const qsizetype equals = text.indexOf(u'=');
-        if (equals >= 0 && !IsComment(text) && SameName(text.left(equals), key))
+        if (equals >= 0 && SameName(text.left(equals), key))
             return line;
     }
     return -1;
