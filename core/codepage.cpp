@@ -2,6 +2,7 @@
 
 #include "core/runtimeerror.h"
 
+#include <QList>
 #include <QStringConverter>
 
 #include <algorithm>
@@ -47,11 +48,15 @@ QString FromAnsi(QByteArrayView bytes) {
 }
 
 QByteArray ToAnsi(QStringView text) {
-    QByteArray bytes = Checked(Encoder()).encode(text);
-    // The converter writes the control character SUB for what the page does not have.
+    // The converter writes the control character SUB for what the page does not have, so a
+    // SUB of the text's own is kept out of its way.
     constexpr QChar substitute(0x1A);
-    if (!text.contains(substitute))
-        bytes.replace(substitute.toLatin1(), '?');
+    QByteArray bytes;
+    for (const QStringView piece : text.split(substitute)) {
+        bytes += QByteArray(Checked(Encoder()).encode(piece)).replace(substitute.toLatin1(), '?');
+        bytes += substitute.toLatin1();
+    }
+    bytes.chop(1);
     return bytes;
 }
 

@@ -13,6 +13,22 @@ bool SameName(QStringView a, QStringView b) {
     return a.trimmed().compare(b.trimmed(), Qt::CaseInsensitive) == 0;
 }
 
+// The lines with their ends: CR LF, a lone LF or a lone CR.
+QList<QString> Lines(const QString& text) {
+    QList<QString> lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool crLf = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+        if (crLf || (text[i] != u'\r' && text[i] != u'\n'))
+            continue;
+        lines.append(text.sliced(start, i + 1 - start));
+        start = i + 1;
+    }
+    if (start < text.size())
+        lines.append(text.sliced(start));
+    return lines;
+}
+
 // The name of a section line; nothing for any other line.
 std::optional<QStringView> SectionName(QStringView line) {
     line = line.trimmed();
@@ -24,8 +40,8 @@ std::optional<QStringView> SectionName(QStringView line) {
     return line.sliced(1, end - 1);
 }
 
-bool IsComment(QStringView line) {
-    return line.trimmed().startsWith(u';');
+bool EndsLine(QStringView line) {
+    return line.endsWith(u'\n') || line.endsWith(u'\r');
 }
 
 QStringView WithoutQuotes(QStringView value) {
@@ -47,13 +63,7 @@ ProfileFile ProfileFile::Read(const QString& path) {
 
 ProfileFile ProfileFile::FromBytes(const QByteArray& bytes) {
     ProfileFile profile;
-    const QString text = FromAnsi(bytes);
-    for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = text.indexOf(u'\n', start);
-        const qsizetype next = end < 0 ? text.size() : end + 1;
-        profile.m_lines.append(text.sliced(start, next - start));
-        start = next;
-    }
+    profile.m_lines = Lines(FromAnsi(bytes));
     return profile;
 }
 
@@ -73,31 +83,21 @@ QString ProfileFile::Value(const QString& section, const QString& key,
 
 void ProfileFile::SetValue(const QString& section, const QString& key, const QString& value) {
     const QString lineEnd = QStringLiteral("\r\n");
-    const auto endLine = [&](qsizetype line) {
-        if (line >= 0 && !m_lines[line].endsWith(u'\n'))
-            m_lines[line] += lineEnd;
-    };
     const qsizetype sectionLine = FindSection(section);
-    if (sectionLine < 0) {
-        endLine(m_lines.size() - 1);
-        m_lines.append(u'[' + section + u']' + lineEnd);
-        m_lines.append(key + u'=' + value + lineEnd);
-        return;
-    }
     const qsizetype keyLine = FindKey(sectionLine, key);
     if (keyLine >= 0) {
-        m_lines[keyLine] =
-            m_lines[keyLine].left(m_lines[keyLine].indexOf(u'=') + 1) + value + lineEnd;
-        return;
+        QString& line = m_lines[keyLine];
+        line = line.left(line.indexOf(u'=') + 1) + value + lineEnd;
+    } else {
+        const QString header =
+            sectionLine < 0 ? QString(u'[' + section + u']' + lineEnd) : QString();
+        const qsizetype end = sectionLine < 0 ? m_lines.size() : EndOfSection(sectionLine);
+        if (end > 0 && !EndsLine(m_lines[end - 1]))
+            m_lines[end - 1] += lineEnd;
+        m_lines.insert(end, header + key + u'=' + value + lineEnd);
     }
-    // Behind the section's last line that says something.
-    qsizetype last = sectionLine;
-    for (qsizetype line = sectionLine + 1; line < m_lines.size() && !SectionName(m_lines[line]);
-         ++line)
-        if (!m_lines[line].trimmed().isEmpty())
-            last = line;
-    endLine(last);
-    m_lines.insert(last + 1, key + u'=' + value + lineEnd);
+    // A value with line breaks, or the header of a new section, made several lines.
+    m_lines = Lines(m_lines.join(QString()));
 }
 
 QByteArray ProfileFile::ToBytes() const {
@@ -127,10 +127,18 @@ qsizetype ProfileFile::FindKey(qsizetype sectionLine, const QString& key) const 
         if (SectionName(text))
             return -1;
         const qsizetype equals = text.indexOf(u'=');
-        if (equals >= 0 && !IsComment(text) && SameName(text.left(equals), key))
+        if (equals >= 0 && SameName(text.left(equals), key))
             return line;
     }
     return -1;
+}
+
+qsizetype ProfileFile::EndOfSection(qsizetype sectionLine) const {
+    qsizetype end = sectionLine + 1;
+    for (qsizetype line = end; line < m_lines.size() && !SectionName(m_lines[line]); ++line)
+        if (!m_lines[line].trimmed().isEmpty())
+            end = line + 1;
+    return end;
 }
 
 QString ReadIni(const QString& file, const QString& section, const QString& key,

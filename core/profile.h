@@ -33,6 +33,7 @@ public:
 private:
     qsizetype FindSection(const QString& section) const;
     qsizetype FindKey(qsizetype sectionLine, const QString& key) const;
+    qsizetype EndOfSection(qsizetype sectionLine) const; // Behind its last line with text.
 
     QList<QString> m_lines; // Each with its own line end.
     bool m_read = true;     // False for a file that is there and cannot be read.

@@ -1,9 +1,12 @@
 // Turns a text of the repository (UTF-8, LF) into a file of the program (code page 1251,
-// CR LF), or says which characters the page does not have.
+// CR LF), or says which characters the page does not have and writes nothing.
 #include "core/codepage.h"
 
-#include <QFile>
-#include <QString>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStringDecoder>
+#include <QStringList>
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,8 +14,25 @@
 namespace {
 
 int Fail(const QString& message) {
-    std::fputs(qPrintable(message + u'\n'), stderr);
+    std::fputs((message + u'\n').toLocal8Bit().constData(), stderr);
     return EXIT_FAILURE;
+}
+
+// "file:line: ..." for every line with characters that the page does not have, each of
+// them with its code point: some look like a letter of the page, others like nothing.
+QStringList Faults(const QString& file, const QStringList& lines) {
+    QStringList faults;
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        QStringList characters;
+        for (const char32_t code : OutsideAnsi(lines[line]).toUcs4())
+            characters += QStringLiteral("“%1” (U+%2)")
+                              .arg(QString::fromUcs4(&code, 1))
+                              .arg(static_cast<uint>(code), 4, 16, QLatin1Char('0'));
+        if (!characters.isEmpty())
+            faults += QStringLiteral("%1:%2: not in the code page: ").arg(file).arg(line + 1) +
+                      characters.join(QStringLiteral(", "));
+    }
+    return faults;
 }
 
 } // namespace
@@ -23,13 +43,18 @@ int main(int argc, char** argv) {
     QFile source(QString::fromLocal8Bit(argv[1]));
     if (!source.open(QIODevice::ReadOnly))
         return Fail(QStringLiteral("cannot read ") + source.fileName());
-    QString text = QString::fromUtf8(source.readAll());
-    if (const QString outside = OutsideAnsi(text); !outside.isEmpty())
-        return Fail(source.fileName() + QStringLiteral(": not in the code page: ") + outside);
-    text.replace(u'\n', QStringLiteral("\r\n"));
-    const QByteArray bytes = ToAnsi(text);
-    QFile target(QString::fromLocal8Bit(argv[2]));
-    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size())
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8.decode(source.readAll());
+    if (utf8.hasError())
+        return Fail(source.fileName() + QStringLiteral(": not UTF-8"));
+    const QStringList lines = text.remove(u'\r').split(u'\n');
+    if (const QStringList faults = Faults(source.fileName(), lines); !faults.isEmpty())
+        return Fail(faults.join(u'\n'));
+
+    QSaveFile target(QString::fromLocal8Bit(argv[2]));
+    QDir().mkpath(QFileInfo(target.fileName()).path());
+    if (!target.open(QIODevice::WriteOnly) ||
+        target.write(ToAnsi(lines.join(QStringLiteral("\r\n")))) < 0 || !target.commit())
         return Fail(QStringLiteral("cannot write ") + target.fileName());
     return EXIT_SUCCESS;
 }

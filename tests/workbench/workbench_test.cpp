@@ -16,7 +16,7 @@ constexpr int none = -1;
 
 } // namespace
 
-class tst_Workbench : public QObject {
+class WorkbenchTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -73,7 +73,7 @@ private:
     std::unique_ptr<Workbench> m_bench;
 };
 
-void tst_Workbench::init() {
+void WorkbenchTest::init() {
     m_state = AppState();
     LayStrings(m_state, standardStrings, true);
     m_bench = std::make_unique<Workbench>(m_state);
@@ -84,7 +84,7 @@ void tst_Workbench::init() {
     m_bench->ChooseType(0);
 }
 
-void tst_Workbench::AppendTypes(const QByteArray& bytes) {
+void WorkbenchTest::AppendTypes(const QByteArray& bytes) {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("chords.dat"));
     QFile file(path);
@@ -95,21 +95,21 @@ void tst_Workbench::AppendTypes(const QByteArray& bytes) {
     m_state.ChordTypes.AppendDataFile(path);
 }
 
-Frets tst_Workbench::Marks() const {
+Frets WorkbenchTest::Marks() const {
     Frets frets;
     for (int row = 0; row < stringCount; ++row)
         frets += m_bench->Row(row).mark.value_or(none);
     return frets;
 }
 
-QString tst_Workbench::Notes() const {
+QString WorkbenchTest::Notes() const {
     QStringList notes;
     for (int row = 0; row < stringCount; ++row)
         notes += m_bench->RowText(row);
     return notes.join(u' ');
 }
 
-void tst_Workbench::ChoosingNamesAndSpells() {
+void WorkbenchTest::ChoosingNamesAndSpells() {
     QCOMPARE(m_bench->ChordName(), QStringLiteral("C"));
     QCOMPARE(m_bench->MarkedNames(), QStringLiteral("C E G "));
     m_bench->ChooseType(6);
@@ -120,7 +120,7 @@ void tst_Workbench::ChoosingNamesAndSpells() {
     QCOMPARE(m_bench->Keys().Marked(), (std::vector<int>{11, 15, 18, 21}));
 }
 
-void tst_Workbench::HintFollowsTheTypeOnly() {
+void WorkbenchTest::HintFollowsTheTypeOnly() {
     m_bench->ChooseType(1);
     QCOMPARE(m_bench->ChordHint(), QStringLiteral("m, min, -, minor"));
     m_bench->ChooseType(3);
@@ -129,7 +129,7 @@ void tst_Workbench::HintFollowsTheTypeOnly() {
     QCOMPARE(m_bench->ChordHint(), QStringLiteral("Уменьшенное трезвучие"));
 }
 
-void tst_Workbench::NothingChosenDoesNothing() {
+void WorkbenchTest::NothingChosenDoesNothing() {
     Workbench bench(m_state);
     bench.ChooseRoot(0, QStringLiteral("C"));
     QCOMPARE(bench.ChordName(), QString());
@@ -140,13 +140,13 @@ void tst_Workbench::NothingChosenDoesNothing() {
     QVERIFY(other.Keys().Marked().empty());
 }
 
-void tst_Workbench::UnknownRoot() {
+void WorkbenchTest::UnknownRoot() {
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_bench->ChooseRoot(0, QStringLiteral("Db")));
     QCOMPARE(m_bench->ChordName(), QStringLiteral("Db")); // What was done stays.
     QVERIFY(m_bench->Keys().Marked().empty());
 }
 
-void tst_Workbench::StructuresPastTheEnd() {
+void WorkbenchTest::StructuresPastTheEnd() {
     AppendTypes("far\r\n\r\n\r\n9999");
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_bench->ChooseType(50));
     QCOMPARE(m_bench->Keys().Marked(), (std::vector<int>{0, 9, 18, 27}));
@@ -156,7 +156,7 @@ void tst_Workbench::StructuresPastTheEnd() {
     QCOMPARE(m_bench->Keys().Marked().back(), 35);
 }
 
-void tst_Workbench::StepZeroLeavesTheKeyRed() {
+void WorkbenchTest::StepZeroLeavesTheKeyRed() {
     AppendTypes("zero\r\n\r\n\r\n40");
     m_bench->ChooseType(50);
     QCOMPARE(m_bench->Keys().Marked(), (std::vector<int>{0, 4}));
@@ -164,18 +164,18 @@ void tst_Workbench::StepZeroLeavesTheKeyRed() {
     QCOMPARE(m_bench->Keys().Marked(), std::vector<int>{4});
 }
 
-void tst_Workbench::StepsThatAreNoDigits() {
+void WorkbenchTest::StepsThatAreNoDigits() {
     AppendTypes("letters\r\n\r\n\r\na4-3");
     m_bench->ChooseType(50);
     QCOMPARE(m_bench->Keys().Marked(), (std::vector<int>{0, 4, 7}));
 }
 
-void tst_Workbench::AlternativeNamesOfNothing() {
+void WorkbenchTest::AlternativeNamesOfNothing() {
     const Workbench bench(m_state);
     QVERIFY_THROWS_EXCEPTION(RunTimeError, bench.AlternativeNames());
 }
 
-void tst_Workbench::Searching_data() {
+void WorkbenchTest::Searching_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("row");
     QTest::newRow("a list name") << QStringLiteral("m7b5") << 41;
@@ -187,13 +187,13 @@ void tst_Workbench::Searching_data() {
     QTest::newRow("case counts") << QStringLiteral("MAJ") << none;
 }
 
-void tst_Workbench::Searching() {
+void WorkbenchTest::Searching() {
     QFETCH(const QString, text);
     QFETCH(const int, row);
     QCOMPARE(FindChordType(m_state.ChordTypes, text).value_or(none), row);
 }
 
-void tst_Workbench::Naming_data() {
+void WorkbenchTest::Naming_data() {
     QTest::addColumn<QList<int>>("keys");
     QTest::addColumn<QString>("name");
     QTest::newRow("major triad") << QList{0, 4, 7} << QStringLiteral("C");
@@ -207,7 +207,7 @@ void tst_Workbench::Naming_data() {
     QTest::newRow("a distance of two digits") << QList{0, 10} << QStringLiteral("---");
 }
 
-void tst_Workbench::Naming() {
+void WorkbenchTest::Naming() {
     QFETCH(const QList<int>, keys);
     QFETCH(const QString, name);
     m_bench->ClearKeyMarks();
@@ -218,7 +218,7 @@ void tst_Workbench::Naming() {
     QCOMPARE(m_bench->Keys().Marked(), std::vector<int>(keys.begin(), keys.end()));
 }
 
-void tst_Workbench::NamingByTheLastOfEqualStructures() {
+void WorkbenchTest::NamingByTheLastOfEqualStructures() {
     AppendTypes("mine\r\n\r\n!\r\n43\r\nten\r\n\r\nten\r\n10");
     m_bench->FindChord();
     QCOMPARE(m_bench->ChordName(), QStringLiteral("C!"));
@@ -226,13 +226,13 @@ void tst_Workbench::NamingByTheLastOfEqualStructures() {
     QCOMPARE(NameChord({0, 10}, m_state.ChordTypes), QStringLiteral("Cten"));
 }
 
-void tst_Workbench::EmptyStructuresNameSingleKeys() {
+void WorkbenchTest::EmptyStructuresNameSingleKeys() {
     AppendTypes("note\r\n\r\n note\r\n\r\n");
     QCOMPARE(NameChord({5}, m_state.ChordTypes), QStringLiteral("F note"));
     QCOMPARE(NameChord({}, m_state.ChordTypes), QStringLiteral(" note"));
 }
 
-void tst_Workbench::Scales_data() {
+void WorkbenchTest::Scales_data() {
     QTest::addColumn<QString>("degrees");
     QTest::addColumn<QList<int>>("keys");
     QTest::newRow("chromatic on B") << QStringLiteral("1,2,3,4,5,6,7,8,9,10,11,12")
@@ -246,7 +246,7 @@ void tst_Workbench::Scales_data() {
     QTest::newRow("an empty list is the root") << QString() << QList{11};
 }
 
-void tst_Workbench::Scales() {
+void WorkbenchTest::Scales() {
     QFETCH(const QString, degrees);
     QFETCH(const QList<int>, keys);
     QTemporaryDir folder;
@@ -262,12 +262,12 @@ void tst_Workbench::Scales() {
     QCOMPARE(Marks(), Frets(6, none));
 }
 
-void tst_Workbench::ScaleWithoutRoot() {
+void WorkbenchTest::ScaleWithoutRoot() {
     Workbench bench(m_state);
     QVERIFY_THROWS_EXCEPTION(RunTimeError, bench.ChooseScale(0, QStringLiteral("x")));
 }
 
-void tst_Workbench::ScaleThatFailsHalfWay() {
+void WorkbenchTest::ScaleThatFailsHalfWay() {
     QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("scales.dat")));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -281,7 +281,7 @@ void tst_Workbench::ScaleThatFailsHalfWay() {
     }
 }
 
-void tst_Workbench::CMajor() {
+void WorkbenchTest::CMajor() {
     QCOMPARE(Marks(), (Frets{none, 1, none, 2, 3, none}));
     QCOMPARE(Notes(), QStringLiteral("E C G E C E"));
     QCOMPARE(m_bench->Missing().text, QStringLiteral("   "));
@@ -291,7 +291,7 @@ void tst_Workbench::CMajor() {
     QCOMPARE(m_bench->Row(0).automaticFret, 0);
 }
 
-void tst_Workbench::NothingMarked() {
+void WorkbenchTest::NothingMarked() {
     m_bench->ClearKeyMarks();
     m_bench->PlaceFingers();
     QCOMPARE(Marks(), Frets(6, none));
@@ -300,7 +300,7 @@ void tst_Workbench::NothingMarked() {
     QCOMPARE(m_bench->Row(4).currentFret, 3); // `StringFrets` stays.
 }
 
-void tst_Workbench::MissingNotes_data() {
+void WorkbenchTest::MissingNotes_data() {
     QTest::addColumn<QList<int>>("keys");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("red");
@@ -312,7 +312,7 @@ void tst_Workbench::MissingNotes_data() {
         << QList{4, 9, 11, 13, 14, 19, 25} << QStringLiteral("   C#   C# ") << false;
 }
 
-void tst_Workbench::MissingNotes() {
+void WorkbenchTest::MissingNotes() {
     QFETCH(const QList<int>, keys);
     QFETCH(const QString, text);
     QFETCH(const bool, red);
@@ -324,7 +324,7 @@ void tst_Workbench::MissingNotes() {
     QCOMPARE(m_bench->Missing().rootMissing, red);
 }
 
-void tst_Workbench::BarreOfSixStrings() {
+void WorkbenchTest::BarreOfSixStrings() {
     m_bench->ChooseRoot(5, QStringLiteral("F"));
     m_bench->SwitchBarre();
     QCOMPARE(m_bench->ShownBarre(), (std::optional(Barre{1, 5})));
@@ -339,7 +339,7 @@ void tst_Workbench::BarreOfSixStrings() {
     QCOMPARE(Notes(), QStringLiteral("G B G D B G"));
 }
 
-void tst_Workbench::StringsOutsideTheBarre() {
+void WorkbenchTest::StringsOutsideTheBarre() {
     m_bench->ChooseBarreStrings(0);
     m_bench->ChooseBarreFret(1);
     m_bench->SwitchBarre();
@@ -349,7 +349,7 @@ void tst_Workbench::StringsOutsideTheBarre() {
     QCOMPARE(Marks(), (Frets{3, 3, 3, none, 1, 1}));
 }
 
-void tst_Workbench::BarreExtentIsAskedAnew() {
+void WorkbenchTest::BarreExtentIsAskedAnew() {
     m_bench->ChooseBarreStrings(0);
     m_bench->ChooseBarreFret(1);
     m_bench->SwitchBarre();
@@ -359,13 +359,13 @@ void tst_Workbench::BarreExtentIsAskedAnew() {
     QCOMPARE(Marks(), (Frets{3, 5, 5, none, 3, 3})); // ...but all strings lie under it.
 }
 
-void tst_Workbench::BarreWithoutExtent() {
+void WorkbenchTest::BarreWithoutExtent() {
     m_bench->ChooseBarreStrings(-1);
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_bench->SwitchBarre());
     QVERIFY(!m_bench->ShownBarre());
 }
 
-void tst_Workbench::BarreFretWithBarreOff() {
+void WorkbenchTest::BarreFretWithBarreOff() {
     const Frets before = Marks();
     m_bench->ChooseBarreFret(4);
     QCOMPARE(Marks(), before);
@@ -374,7 +374,7 @@ void tst_Workbench::BarreFretWithBarreOff() {
     QCOMPARE(m_bench->ShownBarre()->fret, 5);
 }
 
-void tst_Workbench::BarreAtTheFarEnd() {
+void WorkbenchTest::BarreAtTheFarEnd() {
     m_bench->ClearKeyMarks();
     m_bench->ToggleKey(0); // C alone: often far above the barre.
     m_bench->ChooseBarreFret(14);
@@ -385,7 +385,7 @@ void tst_Workbench::BarreAtTheFarEnd() {
     QCOMPARE(m_bench->Row(3).mark, std::optional(20));
 }
 
-void tst_Workbench::FretNumbers() {
+void WorkbenchTest::FretNumbers() {
     m_bench->PressFretNumber(5);
     QCOMPARE(m_bench->ShownBarre()->fret, 5);
     QCOMPARE(m_bench->BarreFretRow(), 4);
@@ -397,7 +397,7 @@ void tst_Workbench::FretNumbers() {
     QCOMPARE(Notes(), QStringLiteral("E C G E C E"));
 }
 
-void tst_Workbench::DraggingTheBarre() {
+void WorkbenchTest::DraggingTheBarre() {
     QVERIFY(!m_bench->GrabsBarre(247));
     m_bench->SwitchBarre();
     QVERIFY(m_bench->GrabsBarre(247));
@@ -416,7 +416,7 @@ void tst_Workbench::DraggingTheBarre() {
     QCOMPARE(m_bench->BarreFretRow(), 0);
 }
 
-void tst_Workbench::PressingStrings() {
+void WorkbenchTest::PressingStrings() {
     m_bench->PressString(2, 16);
     QCOMPARE(m_bench->RowText(2), QStringLiteral("B"));
     QCOMPARE(m_bench->Row(2).mark, std::optional(16));
@@ -429,7 +429,7 @@ void tst_Workbench::PressingStrings() {
     QCOMPARE(m_bench->Row(2).automaticFret, 0); // `StringFrets` is not touched.
 }
 
-void tst_Workbench::ClearingTheFretboard() {
+void WorkbenchTest::ClearingTheFretboard() {
     m_bench->SwitchBarre();
     m_bench->ClearFretboard();
     QVERIFY(!m_bench->ShownBarre());
@@ -439,7 +439,7 @@ void tst_Workbench::ClearingTheFretboard() {
     QCOMPARE(m_bench->MarkedNames(), QStringLiteral("C E G ")); // The keys stay.
 }
 
-void tst_Workbench::Combinations() {
+void WorkbenchTest::Combinations() {
     const QString string = QStringLiteral("5");
     for (const auto& [fret, note] : {std::pair(7, "E"), std::pair(10, "G"), std::pair(3, "C")}) {
         m_bench->FindNextFret(string);
@@ -449,7 +449,7 @@ void tst_Workbench::Combinations() {
     QCOMPARE(m_bench->Row(4).automaticFret, 3);
 }
 
-void tst_Workbench::CombinationsOfAnOpenString() {
+void WorkbenchTest::CombinationsOfAnOpenString() {
     const Frets cycle{3, 8, 12, none, 3};
     for (const int fret : cycle) {
         m_bench->FindNextFret(QStringLiteral("1"));
@@ -459,7 +459,7 @@ void tst_Workbench::CombinationsOfAnOpenString() {
     QCOMPARE(m_bench->Row(2).mark, std::optional(5));
 }
 
-void tst_Workbench::CombinationsDisregardTheBarre() {
+void WorkbenchTest::CombinationsDisregardTheBarre() {
     m_bench->ChooseBarreFret(4);
     m_bench->SwitchBarre();
     QCOMPARE(m_bench->Row(4).automaticFret, 7);
@@ -473,27 +473,27 @@ void tst_Workbench::CombinationsDisregardTheBarre() {
     QCOMPARE(m_bench->Row(1).mark, std::optional(1)); // Below the barre.
 }
 
-void tst_Workbench::CombinationsOfStringsThatAreNotThere_data() {
+void WorkbenchTest::CombinationsOfStringsThatAreNotThere_data() {
     QTest::addColumn<QString>("text");
     for (const char* text : {"", "0", "7", "abc", "-1", "99999999999", "0.4"})
         QTest::newRow(*text == '\0' ? "empty" : text) << QString::fromLatin1(text);
 }
 
-void tst_Workbench::CombinationsOfStringsThatAreNotThere() {
+void WorkbenchTest::CombinationsOfStringsThatAreNotThere() {
     QFETCH(const QString, text);
     const Frets before = Marks();
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_bench->FindNextFret(text));
     QCOMPARE(Marks(), before);
 }
 
-void tst_Workbench::CombinationsWithoutMarks() {
+void WorkbenchTest::CombinationsWithoutMarks() {
     m_bench->ClearKeyMarks();
     const Frets before = Marks();
     m_bench->FindNextFret(QStringLiteral("2"));
     QCOMPARE(Marks(), before);
 }
 
-void tst_Workbench::ReadingTheFretboard() {
+void WorkbenchTest::ReadingTheFretboard() {
     m_bench->ChooseRoot(9, QStringLiteral("A"));
     QCOMPARE(m_bench->Keys().Marked(), (std::vector<int>{9, 13, 16}));
     m_bench->ToggleMute(0);
@@ -506,7 +506,7 @@ void tst_Workbench::ReadingTheFretboard() {
     QVERIFY(m_bench->Row(0).enabled);
 }
 
-void tst_Workbench::ReadMarksGiveBackTheirColour() {
+void WorkbenchTest::ReadMarksGiveBackTheirColour() {
     m_bench->ReadFretboard();
     m_bench->ToggleKey(0);
     QCOMPARE(m_bench->Keys().Fill(0), whiteKeyColour);
@@ -515,7 +515,7 @@ void tst_Workbench::ReadMarksGiveBackTheirColour() {
     QCOMPARE(m_bench->Keys().Fill(1), blackKeyColour);
 }
 
-void tst_Workbench::NotesThatAreNone() {
+void WorkbenchTest::NotesThatAreNone() {
     m_state.StringNotes[2] = QStringLiteral("H");
     m_bench->StringsChanged();
     m_bench->PlaceFingers();
@@ -529,7 +529,7 @@ void tst_Workbench::NotesThatAreNone() {
     QVERIFY(m_bench->Row(3).mark); // The next one goes on.
 }
 
-void tst_Workbench::RetunedStrings() {
+void WorkbenchTest::RetunedStrings() {
     m_state.StringNotes[5] = QStringLiteral("D");
     m_bench->StringsChanged();
     QCOMPARE(Notes(), QStringLiteral("E B G D A D"));
@@ -538,5 +538,5 @@ void tst_Workbench::RetunedStrings() {
     QCOMPARE(Marks(), (Frets{none, 1, none, 2, 3, 2}));
 }
 
-QTEST_GUILESS_MAIN(tst_Workbench)
-#include "tst_workbench.moc"
+QTEST_GUILESS_MAIN(WorkbenchTest)
+#include "workbench_test.moc"

@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-class tst_Playback : public QObject {
+class PlaybackTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -38,7 +38,7 @@ private:
     bool m_repeats = false;
 };
 
-void tst_Playback::init() {
+void PlaybackTest::init() {
     m_state = AppState();
     LayStrings(m_state, standardStrings, true);
     m_clock = HandClock();
@@ -55,7 +55,7 @@ void tst_Playback::init() {
                        [this] { return m_bench->ShownBarreFret(); }, [this] { return m_repeats; }});
 }
 
-void tst_Playback::KeysAscending() {
+void PlaybackTest::KeysAscending() {
     for (const int key : {35, 0, 16})
         m_bench->ToggleKey(key);
     m_playback->PlayKeys(true);
@@ -66,14 +66,14 @@ void tst_Playback::KeysAscending() {
     QVERIFY(!m_state.IsPlaying);
 }
 
-void tst_Playback::PaceIsReadOnce_data() {
+void PlaybackTest::PaceIsReadOnce_data() {
     QTest::addColumn<bool>("fast");
     QTest::addColumn<double>("step");
     QTest::newRow("fast is half a second") << true << 0.5;
     QTest::newRow("slow is a second") << false << 1.0;
 }
 
-void tst_Playback::PaceIsReadOnce() {
+void PlaybackTest::PaceIsReadOnce() {
     QFETCH(const bool, fast);
     QFETCH(const double, step);
     m_playback->PlayStrings(fast);
@@ -82,13 +82,13 @@ void tst_Playback::PaceIsReadOnce() {
         QCOMPARE(m_midi->times[i], 100 + i * step);
 }
 
-void tst_Playback::StringsFromThickToThin_data() {
+void PlaybackTest::StringsFromThickToThin_data() {
     QTest::addColumn<bool>("thinAtBottom");
     QTest::newRow("thin string at the bottom") << true;
     QTest::newRow("thin string at the top") << false;
 }
 
-void tst_Playback::StringsFromThickToThin() {
+void PlaybackTest::StringsFromThickToThin() {
     QFETCH(const bool, thinAtBottom);
     LayStrings(m_state, standardStrings, thinAtBottom);
     m_playback->PlayStrings(true);
@@ -97,7 +97,7 @@ void tst_Playback::StringsFromThickToThin() {
                             "strings/25.mid strings/20.mid"));
 }
 
-void tst_Playback::FingersAndBarre() {
+void PlaybackTest::FingersAndBarre() {
     m_bench->SwitchBarre(); // At fret 5; nothing is marked, so there are no fingers.
     m_bench->PressString(0, 16);
     m_bench->PressString(1, std::nullopt); // Off the board: fret 0.
@@ -107,7 +107,7 @@ void tst_Playback::FingersAndBarre() {
                             "strings/25.mid strings/4.mid"));
 }
 
-void tst_Playback::MutedStringsAreSilent() {
+void PlaybackTest::MutedStringsAreSilent() {
     m_bench->ToggleMute(5);
     m_bench->ToggleMute(2);
     m_playback->PlayStrings(true);
@@ -116,7 +116,7 @@ void tst_Playback::MutedStringsAreSilent() {
     QCOMPARE(m_midi->times, (QList{100.0, 100.5, 101.0, 101.5}));
 }
 
-void tst_Playback::RepeatsUntilStopped() {
+void PlaybackTest::RepeatsUntilStopped() {
     m_repeats = true;
     m_bench->ToggleKey(3);
     m_clock.onWait = [this] {
@@ -130,14 +130,14 @@ void tst_Playback::RepeatsUntilStopped() {
     QVERIFY(!m_state.IsPlaying);
 }
 
-void tst_Playback::StopFinishesThePass() {
+void PlaybackTest::StopFinishesThePass() {
     m_repeats = true;
     m_clock.onWait = [this] { m_playback->Stop(); };
     m_playback->PlayStrings(true);
     QCOMPARE(m_midi->played.size(), 6);
 }
 
-void tst_Playback::EmptyPassWaits() {
+void PlaybackTest::EmptyPassWaits() {
     m_repeats = true;
     int waits = 0;
     m_clock.onWait = [&] {
@@ -150,13 +150,13 @@ void tst_Playback::EmptyPassWaits() {
     QVERIFY(m_midi->played.isEmpty());
 }
 
-void tst_Playback::EmptyPassOnceDoesNotWait() {
+void PlaybackTest::EmptyPassOnceDoesNotWait() {
     m_playback->PlayKeys(false);
     QCOMPARE(m_clock.now, 100.0);
     QVERIFY(!m_state.IsPlaying);
 }
 
-void tst_Playback::NestedPress() {
+void PlaybackTest::NestedPress() {
     m_bench->ToggleKey(0);
     m_bench->ToggleKey(1);
     bool pressed = false;
@@ -172,7 +172,7 @@ void tst_Playback::NestedPress() {
     QVERIFY(!m_state.IsPlaying);
 }
 
-void tst_Playback::MarksCountWhenTheirTurnComes() {
+void PlaybackTest::MarksCountWhenTheirTurnComes() {
     m_bench->ToggleKey(0);
     bool marked = false;
     m_clock.onWait = [&] {
@@ -183,14 +183,14 @@ void tst_Playback::MarksCountWhenTheirTurnComes() {
     QCOMPARE(m_midi->played.join(u' '), QStringLiteral("keys/0.mid keys/7.mid"));
 }
 
-void tst_Playback::ClosingEndsAtOnce() {
+void PlaybackTest::ClosingEndsAtOnce() {
     m_repeats = true;
     m_clock.onWait = [this] { m_playback->Abandon(); };
     m_playback->PlayStrings(true);
     QCOMPARE(m_midi->played.size(), 1);
 }
 
-void tst_Playback::SoundingIsShown() {
+void PlaybackTest::SoundingIsShown() {
     QStringList shown;
     m_playback->SetShow([&] {
         shown += m_playback->SoundingRow()   ? QString::number(*m_playback->SoundingRow())
@@ -203,7 +203,7 @@ void tst_Playback::SoundingIsShown() {
     QCOMPARE(shown.join(u' '), QStringLiteral("5 4 3 2 1 0 - k9 -"));
 }
 
-void tst_Playback::NumbersThatAreNone_data() {
+void PlaybackTest::NumbersThatAreNone_data() {
     QTest::addColumn<QString>("number");
     QTest::addColumn<QString>("file");
     QTest::newRow("no number is 0") << QStringLiteral("abc") << QStringLiteral("strings/-3.mid");
@@ -213,7 +213,7 @@ void tst_Playback::NumbersThatAreNone_data() {
     QTest::newRow("negative") << QStringLiteral("-40") << QStringLiteral("strings/-43.mid");
 }
 
-void tst_Playback::NumbersThatAreNone() {
+void PlaybackTest::NumbersThatAreNone() {
     QFETCH(const QString, number);
     QFETCH(const QString, file);
     QCOMPARE(StringSoundFile(QStringLiteral("/x/sounds/../"), number, 3)
@@ -221,7 +221,7 @@ void tst_Playback::NumbersThatAreNone() {
              file);
 }
 
-void tst_Playback::StepsDoNotDrift() {
+void PlaybackTest::StepsDoNotDrift() {
     for (int key = 0; key < keyCount; ++key)
         m_bench->ToggleKey(key);
     m_clock.late = 0.003; // Every wait comes back late.
@@ -231,5 +231,5 @@ void tst_Playback::StepsDoNotDrift() {
         QVERIFY(std::abs(m_midi->times[i] - (100 + i * 0.5)) < 0.010);
 }
 
-QTEST_GUILESS_MAIN(tst_Playback)
-#include "tst_playback.moc"
+QTEST_GUILESS_MAIN(PlaybackTest)
+#include "playback_test.moc"

@@ -16,7 +16,7 @@ const QByteArray record = "Mine\r\nalt\r\nsfx\r\n43";
 
 } // namespace
 
-class tst_Catalogues : public QObject {
+class CataloguesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -45,7 +45,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-QString tst_Catalogues::Write(const QByteArray& bytes) const {
+QString CataloguesTest::Write(const QByteArray& bytes) const {
     const QString path = m_folder.filePath(QStringLiteral("file.dat"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -54,7 +54,7 @@ QString tst_Catalogues::Write(const QByteArray& bytes) const {
     return path;
 }
 
-void tst_Catalogues::NoteTables() {
+void CataloguesTest::NoteTables() {
     QCOMPARE(NoteName(13), u"C#");
     QCOMPARE(NoteName(35), u"B");
     QCOMPARE(KeyZoneNote(20), 12);
@@ -73,20 +73,20 @@ void tst_Catalogues::NoteTables() {
     QVERIFY(!SemitoneOf(u""));
 }
 
-void tst_Catalogues::NotesOutsideTheTables() {
+void CataloguesTest::NotesOutsideTheTables() {
     QVERIFY_THROWS_EXCEPTION(RunTimeError, NoteName(-1));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, NoteName(36));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, WhiteKeyNote(21));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, KeyZoneNote(63));
 }
 
-void tst_Catalogues::BuiltInCounts() {
+void CataloguesTest::BuiltInCounts() {
     QCOMPARE(BuiltInChordTypes().Count(), 50);
     QCOMPARE(BuiltInScales().Count(), 66);
     QCOMPARE(BuiltInTunings().Count(), 36);
 }
 
-void tst_Catalogues::BuiltInStructuresStayInTheOctave() {
+void CataloguesTest::BuiltInStructuresStayInTheOctave() {
     const TextTable types = BuiltInChordTypes();
     for (int entry = 1; entry <= types.Count(); ++entry) {
         int sum = 0;
@@ -99,7 +99,7 @@ void tst_Catalogues::BuiltInStructuresStayInTheOctave() {
     }
 }
 
-void tst_Catalogues::BuiltInScalesStartAtTheRoot() {
+void CataloguesTest::BuiltInScalesStartAtTheRoot() {
     const TextTable scales = BuiltInScales();
     for (int entry = 1; entry <= scales.Count(); ++entry) {
         const QStringList degrees = scales.Field(ScaleDef::Degrees, entry).split(u',');
@@ -111,7 +111,7 @@ void tst_Catalogues::BuiltInScalesStartAtTheRoot() {
     QCOMPARE(scales.Field(ScaleDef::Name, 66), QStringLiteral("Minor"));
 }
 
-void tst_Catalogues::BuiltInTuningsHaveSixNotes() {
+void CataloguesTest::BuiltInTuningsHaveSixNotes() {
     const TextTable tunings = BuiltInTunings();
     for (int entry = 1; entry <= tunings.Count(); ++entry) {
         const QStringList notes = tunings.Field(TuningDef::Notes, entry).split(u',');
@@ -123,7 +123,7 @@ void tst_Catalogues::BuiltInTuningsHaveSixNotes() {
     QCOMPARE(tunings.Field(TuningDef::Notes, 1), QStringLiteral("E,B,G,D,A,D"));
 }
 
-void tst_Catalogues::OddSpellingsAreKept() {
+void CataloguesTest::OddSpellingsAreKept() {
     QCOMPARE(BuiltInTunings().Field(TuningDef::Name, 35),
              QStringLiteral("Perfect Fouth [Perfect 4th]"));
     QCOMPARE(BuiltInTunings().Field(TuningDef::Name, 16), QStringLiteral("Cyail C"));
@@ -133,7 +133,7 @@ void tst_Catalogues::OddSpellingsAreKept() {
     QCOMPARE(BuiltInChordTypes().Field(ChordType::Structure, 14), QStringLiteral("214"));
 }
 
-void tst_Catalogues::FieldsOutsideTheTable() {
+void CataloguesTest::FieldsOutsideTheTable() {
     const TextTable types = BuiltInChordTypes();
     QVERIFY_THROWS_EXCEPTION(RunTimeError, types.Field(ChordType::Name, 0));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, types.Field(ChordType::Name, 51));
@@ -141,7 +141,7 @@ void tst_Catalogues::FieldsOutsideTheTable() {
     QVERIFY_THROWS_EXCEPTION(RunTimeError, types.Field(6, 1));
 }
 
-void tst_Catalogues::ChordsFile_data() {
+void CataloguesTest::ChordsFile_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("records");
     QTest::newRow("an empty file adds nothing") << QByteArray() << 0;
@@ -157,7 +157,7 @@ void tst_Catalogues::ChordsFile_data() {
     QTest::newRow("one line end is two pieces") << QByteArray("\r\n") << 0;
 }
 
-void tst_Catalogues::ChordsFile() {
+void CataloguesTest::ChordsFile() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const int, records);
     TextTable types = BuiltInChordTypes();
@@ -165,7 +165,7 @@ void tst_Catalogues::ChordsFile() {
     QCOMPARE(types.Count(), 50 + records);
 }
 
-void tst_Catalogues::TwoLineFiles_data() {
+void CataloguesTest::TwoLineFiles_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("records");
     QTest::newRow("an empty file adds nothing") << QByteArray() << 0;
@@ -175,7 +175,7 @@ void tst_Catalogues::TwoLineFiles_data() {
     QTest::newRow("one line and a final line end") << QByteArray("n\r\n") << 1;
 }
 
-void tst_Catalogues::TwoLineFiles() {
+void CataloguesTest::TwoLineFiles() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const int, records);
     TextTable scales = BuiltInScales();
@@ -190,7 +190,7 @@ void tst_Catalogues::TwoLineFiles() {
     }
 }
 
-void tst_Catalogues::RecordsKeepTheirText() {
+void CataloguesTest::RecordsKeepTheirText() {
     TextTable types = BuiltInChordTypes();
     types.AppendDataFile(
         Write(ToAnsi(u" Мой\tтип ;\r\n\"a, b\"\r\n\r\n4x\n3\r\nmaj\r\nb\r\nc\r\n")));
@@ -204,7 +204,7 @@ void tst_Catalogues::RecordsKeepTheirText() {
     QCOMPARE(types.Field(ChordType::Structure, 52), QString());
 }
 
-void tst_Catalogues::EveryByteIsTaken() {
+void CataloguesTest::EveryByteIsTaken() {
     QByteArray line;
     for (int byte = 1; byte < 256; ++byte)
         if (byte != '\r' && byte != '\n')
@@ -217,20 +217,20 @@ void tst_Catalogues::EveryByteIsTaken() {
     QCOMPARE(scales.Field(ScaleDef::Name, 67), scales.Field(ScaleDef::Degrees, 67));
 }
 
-void tst_Catalogues::MissingFileChangesNothing() {
+void CataloguesTest::MissingFileChangesNothing() {
     TextTable types = BuiltInChordTypes();
     types.AppendDataFile(m_folder.filePath(QStringLiteral("none.dat")));
     QCOMPARE(types.Count(), 50);
 }
 
-void tst_Catalogues::FolderInPlaceOfTheFile() {
+void CataloguesTest::FolderInPlaceOfTheFile() {
     QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("chords.dat")));
     TextTable types = BuiltInChordTypes();
     QVERIFY_THROWS_EXCEPTION(RunTimeError,
                              types.AppendDataFile(m_folder.filePath(QStringLiteral("chords.dat"))));
 }
 
-void tst_Catalogues::ComparingFields() {
+void CataloguesTest::ComparingFields() {
     TextTable types = BuiltInChordTypes();
     types.AppendDataFile(Write(ToAnsi(u"Мой\r\nплюс, минус\r\nm\r\n43")));
     QVERIFY(types.FieldEquals(ChordType::Name, 2, u"min"));
@@ -243,7 +243,7 @@ void tst_Catalogues::ComparingFields() {
     QVERIFY(types.FieldContains(ChordType::AltNames, 2, u"min,"));
 }
 
-void tst_Catalogues::ManyRecords() {
+void CataloguesTest::ManyRecords() {
     constexpr int count = 100'000;
     QByteArray bytes;
     for (int i = 0; i < count; ++i)
@@ -255,5 +255,5 @@ void tst_Catalogues::ManyRecords() {
     QCOMPARE(types.Field(ChordType::Structure, 51), QStringLiteral("43"));
 }
 
-QTEST_GUILESS_MAIN(tst_Catalogues)
-#include "tst_catalogues.moc"
+QTEST_GUILESS_MAIN(CataloguesTest)
+#include "catalogues_test.moc"

@@ -13,7 +13,7 @@ QPointF Crossing(int row, int fret) {
 
 } // namespace
 
-class tst_FrmMain : public QObject {
+class FrmMainTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -61,7 +61,7 @@ private:
     std::unique_ptr<MainWindow> m_main;
 };
 
-void tst_FrmMain::AfterStartUp() {
+void FrmMainTest::AfterStartUp() {
     QCOMPARE(m_main->window.windowTitle(), QStringLiteral("Тонвик"));
     QCOMPARE(m_main->window.lstType->RowCount(), 50);
     QCOMPARE(m_main->window.lstBase->RowCount(), 12);
@@ -85,7 +85,7 @@ void tst_FrmMain::AfterStartUp() {
              QStringLiteral("44"));
 }
 
-void tst_FrmMain::NamesAreUnique() {
+void FrmMainTest::NamesAreUnique() {
     QStringList names;
     for (const QWidget* widget : m_main->window.findChildren<QWidget*>())
         if (!widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"))
@@ -94,13 +94,13 @@ void tst_FrmMain::NamesAreUnique() {
     QVERIFY(names.contains(QStringLiteral("picKeyboard")));
 }
 
-void tst_FrmMain::PicturesShareOneScale() {
+void FrmMainTest::PicturesShareOneScale() {
     QVERIFY(std::abs(m_main->board->Scale() / m_main->keyboard->Scale() - 1) < 0.002);
     QVERIFY(m_main->board->Scale() >= 1.0 / 15);
     QVERIFY(std::abs(m_main->board->height() - 2175 * m_main->board->Scale()) <= 1);
 }
 
-void tst_FrmMain::ChoosingByMouse() {
+void FrmMainTest::ChoosingByMouse() {
     m_main->ClickRow(m_main->window.lstBase, 4);
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("E"));
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("E G# B "));
@@ -110,7 +110,7 @@ void tst_FrmMain::ChoosingByMouse() {
              QStringLiteral("m, min, -, minor"));
 }
 
-void tst_FrmMain::ClickingTheSelectedRowAgain() {
+void FrmMainTest::ClickingTheSelectedRowAgain() {
     m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(2).center());
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C D E G "));
     m_main->ClickRow(m_main->window.lstType, 0);
@@ -120,13 +120,13 @@ void tst_FrmMain::ClickingTheSelectedRowAgain() {
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C E G "));
 }
 
-void tst_FrmMain::DeselectingStopsTheHandlers() {
+void FrmMainTest::DeselectingStopsTheHandlers() {
     m_main->window.lstType->SelectRow(-1);
     m_main->ClickRow(m_main->window.lstBase, 4);
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("C"));
 }
 
-void tst_FrmMain::DoubleClickTellsTheNotations() {
+void FrmMainTest::DoubleClickTellsTheNotations() {
     BoxSeen box;
     AnswerBox(box);
     const QModelIndex row = m_main->window.lstType->model()->index(1, 0);
@@ -140,12 +140,12 @@ void tst_FrmMain::DoubleClickTellsTheNotations() {
     QCOMPARE(box.buttons, QMessageBox::Ok);
 }
 
-void tst_FrmMain::DoubleClickWithNothingSelected() {
+void FrmMainTest::DoubleClickWithNothingSelected() {
     m_main->window.lstType->SelectRow(-1);
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_main->window.lstType_DblClick());
 }
 
-void tst_FrmMain::FindingAType() {
+void FrmMainTest::FindingAType() {
     m_main->window.txtFind->setText(QStringLiteral("5+"));
     QTest::mouseClick(m_main->window.cmdFind, Qt::LeftButton);
     QCOMPARE(m_main->window.lstType->Row(), 2);
@@ -155,7 +155,7 @@ void tst_FrmMain::FindingAType() {
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C E G# "));
 }
 
-void tst_FrmMain::FindingNothing() {
+void FrmMainTest::FindingNothing() {
     BoxSeen box;
     AnswerBox(box);
     QTest::mouseClick(m_main->window.cmdFind, Qt::LeftButton);
@@ -166,7 +166,7 @@ void tst_FrmMain::FindingNothing() {
     QCOMPARE(m_main->window.lstType->Row(), 0);
 }
 
-void tst_FrmMain::ScaleHidesTheFingers() {
+void FrmMainTest::ScaleHidesTheFingers() {
     m_main->ClickRow(m_main->window.lstLad, 0);
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("C Harmonic Minor"));
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C D D# F G G# B "));
@@ -174,7 +174,7 @@ void tst_FrmMain::ScaleHidesTheFingers() {
     QVERIFY(!m_main->workbench.Row(4).mark);
 }
 
-void tst_FrmMain::KeysByMouse() {
+void FrmMainTest::KeysByMouse() {
     m_main->Click(m_main->keyboard, {1, 1}, Qt::RightButton);
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QString());
     m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(9).center());
@@ -189,7 +189,7 @@ void tst_FrmMain::KeysByMouse() {
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QString());
 }
 
-void tst_FrmMain::KeyAtTheFarRight() {
+void FrmMainTest::KeyAtTheFarRight() {
     m_main->Click(m_main->keyboard, {1, 1}, Qt::MiddleButton); // Any but the left one clears.
     m_main->Click(m_main->keyboard, {7572, 1400});
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QString());
@@ -197,7 +197,7 @@ void tst_FrmMain::KeyAtTheFarRight() {
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C "));
 }
 
-void tst_FrmMain::MarksArePainted() {
+void FrmMainTest::MarksArePainted() {
     for (int key = 0; key < keyCount; ++key) {
         const bool marked = key == 0 || key == 4 || key == 7;
         const QColor own = IsBlackKey(key) ? Colours::blackKey : Colours::whiteKey;
@@ -209,7 +209,7 @@ void tst_FrmMain::MarksArePainted() {
     QVERIFY(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(0, 1)) != Colours::mark);
 }
 
-void tst_FrmMain::FretsByMouse() {
+void FrmMainTest::FretsByMouse() {
     m_main->Click(m_main->board, Crossing(0, 5));
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 0), QStringLiteral("A"));
     QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(0, 5)), Colours::mark);
@@ -220,20 +220,20 @@ void tst_FrmMain::FretsByMouse() {
     QCOMPARE(m_main->workbench.Row(0).mark, std::optional(3));
 }
 
-void tst_FrmMain::PressOnALine() {
+void FrmMainTest::PressOnALine() {
     m_main->Click(m_main->board, {480, FretboardLayout::StringY(4)});
     QCOMPARE(m_main->workbench.Row(4).mark, std::optional(0));
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 4), QStringLiteral("A"));
 }
 
-void tst_FrmMain::PressBesideTheRows() {
+void FrmMainTest::PressBesideTheRows() {
     m_main->Click(m_main->board, {240, 420});
     m_main->Click(m_main->board, {240, 30});
     QCOMPARE(m_main->workbench.Row(5).mark, std::nullopt);
     QCOMPARE(m_main->workbench.Row(4).mark, std::optional(3));
 }
 
-void tst_FrmMain::DoubleClickIsTwoPresses() {
+void FrmMainTest::DoubleClickIsTwoPresses() {
     const QPointF place = KeyboardLayout::FreeArea(2).center();
     m_main->Click(m_main->keyboard, place);
     QVERIFY(m_main->workbench.Keys().IsMarked(2));
@@ -243,7 +243,7 @@ void tst_FrmMain::DoubleClickIsTwoPresses() {
     QVERIFY(!m_main->workbench.Keys().IsMarked(2));
 }
 
-void tst_FrmMain::RightClickClears() {
+void FrmMainTest::RightClickClears() {
     m_main->Click(m_main->board, {100, 100}, Qt::RightButton);
     for (int row = 0; row < stringCount; ++row)
         QVERIFY(!m_main->workbench.Row(row).mark);
@@ -251,7 +251,7 @@ void tst_FrmMain::RightClickClears() {
     QCOMPARE(m_main->Text(QStringLiteral("lblNoS")), QString());
 }
 
-void tst_FrmMain::RightClickTakesTheBarreOff() {
+void FrmMainTest::RightClickTakesTheBarreOff() {
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);
     QVERIFY(m_main->workbench.ShownBarre());
     m_main->Click(m_main->board, {247, 1000}, Qt::RightButton);
@@ -259,7 +259,7 @@ void tst_FrmMain::RightClickTakesTheBarreOff() {
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 1), QStringLiteral("B"));
 }
 
-void tst_FrmMain::BarreIsDragged() {
+void FrmMainTest::BarreIsDragged() {
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);
     const auto marks = m_main->workbench.Row(1).mark;
     m_main->Press(m_main->board, {247, 30}); // Anywhere in its column.
@@ -277,7 +277,7 @@ void tst_FrmMain::BarreIsDragged() {
     QCOMPARE(m_main->window.lstLadBarre->currentIndex(), 14);
 }
 
-void tst_FrmMain::BarreIsPainted() {
+void FrmMainTest::BarreIsPainted() {
     m_main->window.lstLadBarre->SelectRow(4);
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);
     const QRectF bar = FretboardLayout::BarreRect({5, 5});
@@ -287,7 +287,7 @@ void tst_FrmMain::BarreIsPainted() {
     QVERIFY(m_main->Pixel(m_main->board, bar.center()) != Colours::mark);
 }
 
-void tst_FrmMain::FretNumberTogglesTheBarre() {
+void FrmMainTest::FretNumberTogglesTheBarre() {
     auto* fifth = m_main->Find(QStringLiteral("Label3(4)"));
     QTest::mouseClick(fifth, Qt::LeftButton);
     QCOMPARE(m_main->workbench.ShownBarre()->fret, 5);
@@ -298,14 +298,14 @@ void tst_FrmMain::FretNumberTogglesTheBarre() {
     QVERIFY(!m_main->workbench.ShownBarre());
 }
 
-void tst_FrmMain::ErrorsOfTheFretboardAreIgnored() {
+void FrmMainTest::ErrorsOfTheFretboardAreIgnored() {
     m_main->window.lstBarre->setCurrentIndex(-1);
     QTest::mouseClick(m_main->Find(QStringLiteral("Label3(4)")), Qt::LeftButton);
     QVERIFY(!m_main->workbench.ShownBarre());
     QCOMPARE(m_main->window.lstLadBarre->currentIndex(), 4);
 }
 
-void tst_FrmMain::BarreButtonWithoutExtentReports() {
+void FrmMainTest::BarreButtonWithoutExtentReports() {
     m_main->window.lstBarre->setCurrentIndex(-1);
     BoxSeen box;
     AnswerBox(box);
@@ -317,7 +317,7 @@ void tst_FrmMain::BarreButtonWithoutExtentReports() {
     QVERIFY(m_main->window.isVisible()); // The program goes on.
 }
 
-void tst_FrmMain::Highlights() {
+void FrmMainTest::Highlights() {
     const auto hover = [this](const QString& name) {
         QWidget* label = m_main->Find(name);
         QMouseEvent move(QEvent::MouseMove, QPointF(3, 3), label->mapToGlobal(QPointF(3, 3)),
@@ -346,7 +346,7 @@ void tst_FrmMain::Highlights() {
     QCOMPARE(m_main->Colour(QStringLiteral("Label3(0)")), Colours::normalText);
 }
 
-void tst_FrmMain::Handles() {
+void FrmMainTest::Handles() {
     QWidget* fifth = m_main->Find(QStringLiteral("Label6(4)"));
     QTest::mouseClick(fifth, Qt::LeftButton);
     QCOMPARE(m_main->window.txtStr->text(), QStringLiteral("5"));
@@ -357,7 +357,7 @@ void tst_FrmMain::Handles() {
     QCOMPARE(fifth->geometry(), m_main->Find(QStringLiteral("Label4(4)"))->geometry());
 }
 
-void tst_FrmMain::MutedStrings() {
+void FrmMainTest::MutedStrings() {
     QWidget* handle = m_main->Find(QStringLiteral("Label6(0)"));
     auto* label = m_main->Find<QLabel>(QStringLiteral("Label4(0)"));
     QTest::mouseClick(handle, Qt::RightButton);
@@ -368,7 +368,7 @@ void tst_FrmMain::MutedStrings() {
     QVERIFY(!label->font().strikeOut());
 }
 
-void tst_FrmMain::MissingRootIsRed() {
+void FrmMainTest::MissingRootIsRed() {
     m_main->Click(m_main->keyboard, {1, 1}, Qt::RightButton);
     for (const int key : {1, 4, 9, 11, 14, 19})
         m_main->window.Do([&] { m_main->workbench.ToggleKey(key); });
@@ -379,7 +379,7 @@ void tst_FrmMain::MissingRootIsRed() {
     QCOMPARE(m_main->Colour(QStringLiteral("lblNoS")), Colours::normalText);
 }
 
-void tst_FrmMain::ChoosingTheBarreFretAgain() {
+void FrmMainTest::ChoosingTheBarreFretAgain() {
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);
     m_main->Click(m_main->board, Crossing(0, 9));
     QCOMPARE(m_main->workbench.Row(0).mark, std::optional(9));
@@ -388,7 +388,7 @@ void tst_FrmMain::ChoosingTheBarreFretAgain() {
     QVERIFY(m_main->workbench.Row(0).mark != std::optional(9)); // Fingered anew.
 }
 
-void tst_FrmMain::ScrollBarWritesTheString() {
+void FrmMainTest::ScrollBarWritesTheString() {
     auto* bar = m_main->window.VScroll3;
     const QRect up(0, 0, bar->width(), 6);
     QTest::mouseClick(bar, Qt::LeftButton, {}, up.center());
@@ -402,7 +402,7 @@ void tst_FrmMain::ScrollBarWritesTheString() {
     QCOMPARE(bar->value(), 5); // Nothing moves the bar.
 }
 
-void tst_FrmMain::Transfer() {
+void FrmMainTest::Transfer() {
     m_main->ClickRow(m_main->window.lstBase, 9);
     QTest::mouseClick(m_main->window.Command2, Qt::LeftButton);
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C# E A "));
@@ -410,7 +410,7 @@ void tst_FrmMain::Transfer() {
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("---"));
 }
 
-void tst_FrmMain::OrientationsSwapTheGauges() {
+void FrmMainTest::OrientationsSwapTheGauges() {
     MainWindow top(standardStrings, false);
     QCOMPARE(top.Text(QStringLiteral("Label4"), 0), QStringLiteral("E"));
     QCOMPARE(top.Find(QStringLiteral("Label4(0)"))->property("Tag").toString(),
@@ -423,14 +423,14 @@ void tst_FrmMain::OrientationsSwapTheGauges() {
     QVERIFY(thickness(*m_main, 5) > thickness(top, 5));
 }
 
-void tst_FrmMain::ResizingKeepsLabelsAligned_data() {
+void FrmMainTest::ResizingKeepsLabelsAligned_data() {
     QTest::addColumn<QSize>("size");
     QTest::newRow("small") << QSize(1, 1);
     QTest::newRow("wide") << QSize(2400, 700);
     QTest::newRow("tall") << QSize(1300, 1500);
 }
 
-void tst_FrmMain::ResizingKeepsLabelsAligned() {
+void FrmMainTest::ResizingKeepsLabelsAligned() {
     QFETCH(const QSize, size);
     m_main->window.resize(size);
     QCoreApplication::processEvents();
@@ -451,7 +451,7 @@ void tst_FrmMain::ResizingKeepsLabelsAligned() {
     }
 }
 
-void tst_FrmMain::ClosingAsksFirst() {
+void FrmMainTest::ClosingAsksFirst() {
     bool may = false;
     m_main->window.SetMayEnd([&may] { return may; });
     QVERIFY(!m_main->window.close());
@@ -462,7 +462,7 @@ void tst_FrmMain::ClosingAsksFirst() {
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
-    tst_FrmMain test;
+    FrmMainTest test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_frmmain.moc"
+#include "frmmain_test.moc"

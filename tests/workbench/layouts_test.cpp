@@ -5,7 +5,7 @@
 
 #include <QTest>
 
-class tst_Layouts : public QObject {
+class LayoutsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -19,7 +19,7 @@ private Q_SLOTS:
     void FreeAreas();
 };
 
-void tst_Layouts::Frets() {
+void LayoutsTest::Frets() {
     QCOMPARE(FretboardLayout::FretAt(1), std::optional(1));
     QCOMPARE(FretboardLayout::FretAt(479.5), std::optional(1));
     QCOMPARE(FretboardLayout::FretAt(480), std::nullopt);
@@ -29,7 +29,7 @@ void tst_Layouts::Frets() {
     QCOMPARE(FretboardLayout::FretAt(-1), std::nullopt);
 }
 
-void tst_Layouts::Rows() {
+void LayoutsTest::Rows() {
     QCOMPARE(FretboardLayout::RowAt(61), std::optional(5));
     QCOMPARE(FretboardLayout::RowAt(60), std::nullopt);
     QCOMPARE(FretboardLayout::RowAt(420), std::nullopt);
@@ -39,18 +39,18 @@ void tst_Layouts::Rows() {
         QCOMPARE(FretboardLayout::RowAt(FretboardLayout::StringY(row)), std::optional(row));
 }
 
-void tst_Layouts::Marks() {
+void LayoutsTest::Marks() {
     QCOMPARE(FretboardLayout::MarkCentre(0, 1), QPointF(247, 2040));
     QCOMPARE(FretboardLayout::MarkCentre(5, 16), QPointF(247 + 15 * 480, 240));
     QCOMPARE(FretboardLayout::MarkRect(0, 0), QRectF(247 - 127.5 - 480, 2040 - 127.5, 255, 255));
 }
 
-void tst_Layouts::Bars() {
+void LayoutsTest::Bars() {
     QCOMPARE(FretboardLayout::BarreRect({1, 5}), QRectF(119.5, 200, 255, 1960));
     QCOMPARE(FretboardLayout::BarreRect({3, 0}), QRectF(119.5 + 960, 2000, 255, 160));
 }
 
-void tst_Layouts::KeyRects() {
+void LayoutsTest::KeyRects() {
     QCOMPARE(KeyboardLayout::KeyRect(0), QRectF(0, 0, 375, 1575));
     QCOMPARE(KeyboardLayout::KeyRect(35), QRectF(7200, 0, 375, 1575));
     const QList<double> blackLefts{240, 600, 1320, 1680, 2040};
@@ -66,7 +66,7 @@ void tst_Layouts::KeyRects() {
     QCOMPARE(black, 15);
 }
 
-void tst_Layouts::KeysByZone() {
+void LayoutsTest::KeysByZone() {
     for (int zone = 0; zone < 63; ++zone)
         QCOMPARE(KeyboardLayout::KeyAt({zone * 123 + 61.0, 500}),
                  std::optional<int>(KeyZoneNotes[static_cast<std::size_t>(zone)]));
@@ -75,7 +75,7 @@ void tst_Layouts::KeysByZone() {
     QCOMPARE(KeyboardLayout::KeyAt({7749, 500}), std::nullopt);
 }
 
-void tst_Layouts::KeysBelow() {
+void LayoutsTest::KeysBelow() {
     QCOMPARE(KeyboardLayout::KeyAt({10, 1200}), std::optional(0));
     QCOMPARE(KeyboardLayout::KeyAt({360, 1200}), std::nullopt);
     QCOMPARE(KeyboardLayout::KeyAt({361, 1200}), std::optional(2));
@@ -85,7 +85,7 @@ void tst_Layouts::KeysBelow() {
     QCOMPARE(KeyboardLayout::KeyAt({10, 1094.9}), std::optional(0));
 }
 
-void tst_Layouts::FreeAreas() {
+void LayoutsTest::FreeAreas() {
     for (int key = 0; key < keyCount; ++key) {
         if (!IsBlackKey(key)) {
             const QPointF middle = KeyboardLayout::FreeArea(key).center();
@@ -94,5 +94,5 @@ void tst_Layouts::FreeAreas() {
     }
 }
 
-QTEST_APPLESS_MAIN(tst_Layouts)
-#include "tst_layouts.moc"
+QTEST_APPLESS_MAIN(LayoutsTest)
+#include "layouts_test.moc"

@@ -63,7 +63,7 @@ QIcon Square(const QColor& colour) {
 
 } // namespace
 
-class tst_GoldButton : public QObject {
+class GoldButtonTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -107,7 +107,7 @@ private:
     std::unique_ptr<GoldButton> m_button;
 };
 
-void tst_GoldButton::init() {
+void GoldButtonTest::init() {
     m_button.reset();
     m_window = std::make_unique<QWidget>();
     m_button = std::make_unique<GoldButton>(QStringLiteral("cmdTest"), m_window.get());
@@ -118,13 +118,13 @@ void tst_GoldButton::init() {
     m_button->clearFocus();
 }
 
-void tst_GoldButton::SendMove(QPointF place, Qt::MouseButtons buttons) {
+void GoldButtonTest::SendMove(QPointF place, Qt::MouseButtons buttons) {
     QMouseEvent move(QEvent::MouseMove, place, m_button->mapToGlobal(place), Qt::NoButton, buttons,
                      {});
     QCoreApplication::sendEvent(m_button.get(), &move);
 }
 
-void tst_GoldButton::PropertiesInTheirOrder() {
+void GoldButtonTest::PropertiesInTheirOrder() {
     const QMetaObject* meta = m_button->metaObject();
     QStringList names;
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
@@ -136,7 +136,7 @@ void tst_GoldButton::PropertiesInTheirOrder() {
                             "PictureDown PictureDisabled Font"));
 }
 
-void tst_GoldButton::Defaults() {
+void GoldButtonTest::Defaults() {
     QCOMPARE(m_button->property("Enabled").toBool(), true);
     QCOMPARE(m_button->property("Alignment").toInt(), 2);
     QCOMPARE(m_button->property("OnUp").toInt(), 4);
@@ -156,7 +156,7 @@ void tst_GoldButton::Defaults() {
     QCOMPARE(m_button->property("Font").value<QFont>(), m_window->font());
 }
 
-void tst_GoldButton::ColoursAsQtColours() {
+void GoldButtonTest::ColoursAsQtColours() {
     QCOMPARE(m_button->property("HoverColor").value<QColor>(), QColor(0, 0, 255));
     QCOMPARE(m_button->property("ForeColor").value<QColor>(), Colours::text);
     QVERIFY(m_button->setProperty("HoverColor", QColor(1, 2, 3)));
@@ -165,7 +165,7 @@ void tst_GoldButton::ColoursAsQtColours() {
     QCOMPARE(m_button->DownColor().In(m_button->palette()), QColor(255, 0, 0));
 }
 
-void tst_GoldButton::CaptionIsTheName() {
+void GoldButtonTest::CaptionIsTheName() {
     QCOMPARE(m_button->Caption(), QStringLiteral("cmdTest"));
     m_button->SetCaption(QString());
     QCOMPARE(m_button->Caption(), QString());
@@ -173,7 +173,7 @@ void tst_GoldButton::CaptionIsTheName() {
     QCOMPARE(m_button->text(), QStringLiteral("Play"));
 }
 
-void tst_GoldButton::BadValues() {
+void GoldButtonTest::BadValues() {
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_button->SetAlignment(3));
     QVERIFY_THROWS_EXCEPTION(RunTimeError, m_button->SetAlignment(-1));
     QCOMPARE(m_button->Alignment(), 2);
@@ -181,7 +181,7 @@ void tst_GoldButton::BadValues() {
     QCOMPARE(m_button->Style(), GoldButton::bsNormal);
 }
 
-void tst_GoldButton::OneEnterAndOneExit() {
+void GoldButtonTest::OneEnterAndOneExit() {
     QSignalSpy enter(m_button.get(), &GoldButton::MouseEnter);
     QSignalSpy leave(m_button.get(), &GoldButton::MouseExit);
     for (const double x : {1.0, 50.0, 119.0})
@@ -197,7 +197,7 @@ void tst_GoldButton::OneEnterAndOneExit() {
     QCOMPARE(m_button->CurrentState(), GoldButton::State::Normal);
 }
 
-void tst_GoldButton::MovesOutside() {
+void GoldButtonTest::MovesOutside() {
     QSignalSpy leave(m_button.get(), &GoldButton::MouseExit);
     for (const QPointF outside :
          {QPointF(-1, 5), QPointF(121, 5), QPointF(5, -1), QPointF(5, 41)}) {
@@ -210,7 +210,7 @@ void tst_GoldButton::MovesOutside() {
     }
 }
 
-void tst_GoldButton::ClickOnce() {
+void GoldButtonTest::ClickOnce() {
     QSignalSpy click(m_button.get(), &GoldButton::Click);
     QSignalSpy clicked(m_button.get(), &QAbstractButton::clicked);
     QSignalSpy down(m_button.get(), &GoldButton::MouseDown);
@@ -224,7 +224,7 @@ void tst_GoldButton::ClickOnce() {
         QCOMPARE(spy->size(), 1);
 }
 
-void tst_GoldButton::ReleaseOutside() {
+void GoldButtonTest::ReleaseOutside() {
     QSignalSpy click(m_button.get(), &GoldButton::Click);
     QSignalSpy up(m_button.get(), &GoldButton::MouseUp);
     QTest::mousePress(m_button.get(), Qt::LeftButton);
@@ -235,7 +235,7 @@ void tst_GoldButton::ReleaseOutside() {
     QCOMPARE(m_button->CurrentState(), GoldButton::State::Normal);
 }
 
-void tst_GoldButton::OtherButtonsOnlyTell() {
+void GoldButtonTest::OtherButtonsOnlyTell() {
     QSignalSpy click(m_button.get(), &GoldButton::Click);
     QSignalSpy down(m_button.get(), &GoldButton::MouseDown);
     QTest::mouseClick(m_button.get(), Qt::RightButton);
@@ -244,7 +244,7 @@ void tst_GoldButton::OtherButtonsOnlyTell() {
     QVERIFY(m_button->CurrentState() != GoldButton::State::Down);
 }
 
-void tst_GoldButton::EventsTellButtonsAndModifiers() {
+void GoldButtonTest::EventsTellButtonsAndModifiers() {
     QSignalSpy down(m_button.get(), &GoldButton::MouseDown);
     QSignalSpy moved(m_button.get(), &GoldButton::MouseMove);
     QTest::mousePress(m_button.get(), Qt::MiddleButton, Qt::ShiftModifier | Qt::AltModifier,
@@ -254,7 +254,7 @@ void tst_GoldButton::EventsTellButtonsAndModifiers() {
     QCOMPARE(moved.last(), (QVariantList{3, 0, 8.0, 9.0}));
 }
 
-void tst_GoldButton::Keyboard() {
+void GoldButtonTest::Keyboard() {
     QSignalSpy click(m_button.get(), &GoldButton::Click);
     QTest::keyClick(m_window.get(), Qt::Key_Tab);
     QVERIFY(m_button->hasFocus());
@@ -266,7 +266,7 @@ void tst_GoldButton::Keyboard() {
     QTest::keyRelease(m_button.get(), Qt::Key_Space);
 }
 
-void tst_GoldButton::LosingFocus() {
+void GoldButtonTest::LosingFocus() {
     QSignalSpy click(m_button.get(), &GoldButton::Click);
     m_button->setFocus();
     Enter();
@@ -278,7 +278,7 @@ void tst_GoldButton::LosingFocus() {
     QCOMPARE(click.size(), 0);
 }
 
-void tst_GoldButton::DisabledIsDeaf() {
+void GoldButtonTest::DisabledIsDeaf() {
     SendMove({5, 5});
     QSignalSpy leave(m_button.get(), &GoldButton::MouseExit);
     m_button->setProperty("Enabled", false);
@@ -290,7 +290,7 @@ void tst_GoldButton::DisabledIsDeaf() {
     QCOMPARE(m_button->CurrentState(), GoldButton::State::Disabled);
 }
 
-void tst_GoldButton::HandlerThatFails() {
+void GoldButtonTest::HandlerThatFails() {
     connect(m_button.get(), &GoldButton::Click, m_button.get(), [] {
         throw RunTimeError({QStringLiteral("нет"), QStringLiteral("no")});
     });
@@ -302,7 +302,7 @@ void tst_GoldButton::HandlerThatFails() {
     QVERIFY(m_button->CurrentState() != GoldButton::State::Down);
 }
 
-void tst_GoldButton::EdgesByState() {
+void GoldButtonTest::EdgesByState() {
     m_button->SetCaption(QString());
     const QImage normal = Painted(*m_button);
     SendMove({5, 5});
@@ -316,7 +316,7 @@ void tst_GoldButton::EdgesByState() {
     QVERIFY(normal != down);
 }
 
-void tst_GoldButton::EdgeFlags_data() {
+void GoldButtonTest::EdgeFlags_data() {
     QTest::addColumn<int>("edge");
     QTest::addColumn<QColor>("topLeft");
     QTest::addColumn<QColor>("bottomRight");
@@ -335,7 +335,7 @@ void tst_GoldButton::EdgeFlags_data() {
                             << Colours::buttonDark;
 }
 
-void tst_GoldButton::EdgeFlags() {
+void GoldButtonTest::EdgeFlags() {
     QFETCH(const int, edge);
     QFETCH(const QColor, topLeft);
     QFETCH(const QColor, bottomRight);
@@ -351,7 +351,7 @@ void tst_GoldButton::EdgeFlags() {
     QCOMPARE(image.pixelColor(1, 20), innerTopLeft);
 }
 
-void tst_GoldButton::CaptionColours() {
+void GoldButtonTest::CaptionColours() {
     m_button->SetCaption(QStringLiteral("HHHH"));
     m_button->SetForeColor(OleColor::Rgb(200, 0, 0));
     QVERIFY(PixelsOf(Painted(*m_button), QColor(200, 0, 0)) > 10);
@@ -364,14 +364,14 @@ void tst_GoldButton::CaptionColours() {
     QVERIFY(PixelsOf(Painted(*m_button), Colours::mutedText) > 10);
 }
 
-void tst_GoldButton::Alignment_data() {
+void GoldButtonTest::Alignment_data() {
     QTest::addColumn<int>("alignment");
     QTest::newRow("left") << 0;
     QTest::newRow("right") << 1;
     QTest::newRow("centre") << 2;
 }
 
-void tst_GoldButton::Alignment() {
+void GoldButtonTest::Alignment() {
     QFETCH(const int, alignment);
     m_button->SetCaption(QStringLiteral("HH"));
     m_button->SetForeColor(OleColor::Rgb(200, 0, 0));
@@ -387,7 +387,7 @@ void tst_GoldButton::Alignment() {
         QVERIFY(std::abs(before - behind) <= 3);
 }
 
-void tst_GoldButton::SkinParts() {
+void GoldButtonTest::SkinParts() {
     m_button->SetCaption(QString());
     m_button->SetSkinPicture(Skin());
     m_button->SetStyle(GoldButton::bsSkin);
@@ -406,7 +406,7 @@ void tst_GoldButton::SkinParts() {
     QVERIFY(border(Qt::darkGreen));
 }
 
-void tst_GoldButton::DisabledSkin() {
+void GoldButtonTest::DisabledSkin() {
     m_button->SetCaption(QStringLiteral("HHHH"));
     m_button->SetSkinPicture(Skin());
     m_button->SetStyle(GoldButton::bsSkin);
@@ -418,7 +418,7 @@ void tst_GoldButton::DisabledSkin() {
     QVERIFY(PixelsOf(image, QColor(200, 210, 220)) > 5);
 }
 
-void tst_GoldButton::PicturesByState() {
+void GoldButtonTest::PicturesByState() {
     m_button->SetCaption(QString());
     m_button->SetPicture(Square(Qt::green));
     m_button->SetPictureHover(Square(Qt::cyan));
@@ -434,7 +434,7 @@ void tst_GoldButton::PicturesByState() {
     QVERIFY(Painted(*m_button).pixelColor(middle) != QColor(Qt::yellow));
 }
 
-void tst_GoldButton::MissingPictures() {
+void GoldButtonTest::MissingPictures() {
     m_button->SetCaption(QString());
     m_button->SetPicture(Square(Qt::green));
     SendMove({5, 5});
@@ -443,7 +443,7 @@ void tst_GoldButton::MissingPictures() {
     QVERIFY(Painted(*m_button).pixelColor(60, 20) != QColor(Qt::green)); // Faded.
 }
 
-void tst_GoldButton::Mask() {
+void GoldButtonTest::Mask() {
     m_button->SetCaption(QString());
     m_button->SetPicture(Square(QColor(1, 2, 3)));
     m_button->SetMaskColor(OleColor::Rgb(1, 2, 3));
@@ -455,7 +455,7 @@ void tst_GoldButton::Mask() {
     QCOMPARE(Painted(*m_button).pixelColor(60, 20), QColor(1, 2, 3));
 }
 
-void tst_GoldButton::SharpAtTwice() {
+void GoldButtonTest::SharpAtTwice() {
     m_button->SetCaption(QString());
     m_button->SetPicture(MakeIcon(Icon::Help));
     const QImage once = Painted(*m_button, 1);
@@ -472,14 +472,14 @@ void tst_GoldButton::SharpAtTwice() {
     QVERIFY(broken > 60);
 }
 
-void tst_GoldButton::FocusShows() {
+void GoldButtonTest::FocusShows() {
     const QImage without = Painted(*m_button);
     m_button->setFocus();
     const QImage with = Painted(*m_button);
     QVERIFY(PixelsOf(with, Colours::focus) > PixelsOf(without, Colours::focus) + 100);
 }
 
-void tst_GoldButton::ScreenReaderName() {
+void GoldButtonTest::ScreenReaderName() {
     m_button->SetCaption(QStringLiteral("&Play"));
     auto* spoken = QAccessible::queryAccessibleInterface(m_button.get());
     QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("Play"));
@@ -492,7 +492,7 @@ void tst_GoldButton::ScreenReaderName() {
     QTRY_COMPARE(click.size(), 1);
 }
 
-void tst_GoldButton::IconsAreDrawn() {
+void GoldButtonTest::IconsAreDrawn() {
     QList<QImage> seen;
     for (int icon = 0; icon <= static_cast<int>(Icon::Dashes); ++icon) {
         const QImage image = MakeIcon(static_cast<Icon>(icon)).pixmap(QSize(48, 48), 1.0).toImage();
@@ -508,7 +508,7 @@ void tst_GoldButton::IconsAreDrawn() {
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
-    tst_GoldButton test;
+    GoldButtonTest test;
     return QTest::qExec(&test, argc, argv);
 }
-#include "tst_goldbutton.moc"
+#include "goldbutton_test.moc"

@@ -1,0 +1,48 @@
+// Numbers that begin a text, and their way to whole numbers.
+#include "core/numbers.h"
+#include "core/runtimeerror.h"
+
+#include <QTest>
+
+class NumbersTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void LeadingNumbers_data();
+    void LeadingNumbers();
+    void SixteenBits();
+};
+
+void NumbersTest::LeadingNumbers_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("number");
+    QTest::newRow("empty") << QString() << 0.0;
+    QTest::newRow("no number") << QStringLiteral("abc") << 0.0;
+    QTest::newRow("fraction") << QStringLiteral("3.7") << 3.7;
+    QTest::newRow("number and text") << QStringLiteral("  12 frets") << 12.0;
+    QTest::newRow("negative") << QStringLiteral("-5x") << -5.0;
+    QTest::newRow("signed") << QStringLiteral("+5") << 5.0;
+    QTest::newRow("exponent") << QStringLiteral("1e9") << 1e9;
+    QTest::newRow("large") << QStringLiteral("99999999999") << 99999999999.0;
+    QTest::newRow("infinity is a word") << QStringLiteral("inf") << 0.0;
+    QTest::newRow("not a number is a word") << QStringLiteral("-nan") << 0.0;
+    QTest::newRow("other digits are no number") << QStringLiteral("٣") << 0.0;
+}
+
+void NumbersTest::LeadingNumbers() {
+    QFETCH(const QString, text);
+    QFETCH(const double, number);
+    QCOMPARE(LeadingNumber(text), number);
+}
+
+void NumbersTest::SixteenBits() {
+    QCOMPARE(ToInteger16(2.5), 2);
+    QCOMPARE(ToInteger16(3.5), 4);
+    QCOMPARE(ToInteger16(-0.5), 0);
+    QCOMPARE(ToInteger16(32767), 32767);
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, ToInteger16(32768));
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, ToInteger16(LeadingNumber(u"1e999")));
+}
+
+QTEST_GUILESS_MAIN(NumbersTest)
+#include "numbers_test.moc"

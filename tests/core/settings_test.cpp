@@ -1,0 +1,121 @@
+// The strings and their order as the settings file has them.
+#include "core/settings.h"
+
+#include "core/codepage.h"
+#include "core/profile.h"
+#include "testfolder.h"
+
+#include <QTest>
+
+namespace {
+
+const QString name = QStringLiteral("tonvik.ini");
+const SixTexts thinFirst{QStringLiteral("E"), QStringLiteral("B"), QStringLiteral("G"),
+                         QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("E")};
+const SixTexts numbersThinFirst{QStringLiteral("20"), QStringLiteral("25"), QStringLiteral("29"),
+                                QStringLiteral("34"), QStringLiteral("39"), QStringLiteral("44")};
+
+SixTexts Reversed(const SixTexts& texts) {
+    SixTexts reversed;
+    std::reverse_copy(texts.begin(), texts.end(), reversed.begin());
+    return reversed;
+}
+
+} // namespace
+
+class SettingsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void DefaultsAreUsedAndNothingIsWritten_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("the file is empty") << QByteArray("");
+        QTest::newRow("sections are missing") << QByteArray("[Other]\r\nUser=1\r\n1S=C\r\n");
+        QTest::newRow("keys are missing")
+            << QByteArray("[Settings]\r\nUserN=1\r\n[Strings]\r\n7S=C\r\n");
+        QTest::newRow("the file is missing") << QByteArray();
+    }
+    void DefaultsAreUsedAndNothingIsWritten() {
+        QFETCH(const QByteArray, bytes);
+        const TestFolder folder;
+        QVERIFY(folder.IsValid());
+        if (!bytes.isNull())
+            QVERIFY(folder.Write(name, bytes));
+        const QStringList names = folder.Names();
+        AppState state;
+        state.AppPath = folder.Path();
+        state.ThinStringAtBottom = false;
+        LoadStartUpSettings(state);
+        QVERIFY(state.ThinStringAtBottom);
+        QCOMPARE(state.StringNotes, thinFirst);
+        QCOMPARE(state.SoundNumbers, numbersThinFirst);
+        QCOMPARE(folder.Bytes(name), bytes);
+        QCOMPARE(folder.Names(), names);
+    }
+
+    void UserGivesTheOrderOfTheStrings_data() {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<bool>("thinAtBottom");
+        QTest::newRow("1: thin at the top") << QStringLiteral("1") << false;
+        QTest::newRow("2: thin at the bottom") << QStringLiteral("2") << true;
+        QTest::newRow("3: as 1") << QStringLiteral("3") << false;
+        QTest::newRow("4: thin at the bottom") << QStringLiteral("4") << true;
+        QTest::newRow("7: as 1") << QStringLiteral("7") << false;
+        QTest::newRow("empty: as 1") << QString() << false;
+        QTest::newRow("02 is not 2") << QStringLiteral("02") << false;
+        QTest::newRow("22 is not 2") << QStringLiteral("22") << false;
+    }
+    void UserGivesTheOrderOfTheStrings() {
+        QFETCH(const QString, user);
+        QFETCH(const bool, thinAtBottom);
+        const TestFolder folder;
+        QVERIFY(folder.Write(name, "[Settings]\r\nUser=" + ToAnsi(user) + "\r\n"));
+        AppState state;
+        state.AppPath = folder.Path();
+        LoadStartUpSettings(state);
+        QCOMPARE(state.ThinStringAtBottom, thinAtBottom);
+        QCOMPARE(state.StringNotes, thinAtBottom ? thinFirst : Reversed(thinFirst));
+        QCOMPARE(state.SoundNumbers, thinAtBottom ? numbersThinFirst : Reversed(numbersThinFirst));
+    }
+
+    void AKeyThatIsMissingAloneTakesItsDefault() {
+        const auto file = ProfileFile::FromBytes("[Strings]\r\n6S=D\r\n6K=46\r\n2K=24\r\n");
+        const OpenStrings strings = ReadOpenStrings(file);
+        QCOMPARE(strings.notes,
+                 (SixTexts{QStringLiteral("E"), QStringLiteral("B"), QStringLiteral("G"),
+                           QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("D")}));
+        QCOMPARE(strings.soundNumbers,
+                 (SixTexts{QStringLiteral("20"), QStringLiteral("24"), QStringLiteral("29"),
+                           QStringLiteral("34"), QStringLiteral("39"), QStringLiteral("46")}));
+    }
+
+    void ValuesAreNotChecked() {
+        const QByteArray longNote(300, 'x');
+        const auto file = ProfileFile::FromBytes(
+            "[Strings]\r\n1S=H\r\n1K=loud\r\n2S=\r\n3S=" + longNote + "\r\n");
+        const OpenStrings strings = ReadOpenStrings(file);
+        QCOMPARE(strings.notes[0], QStringLiteral("H"));
+        QCOMPARE(strings.soundNumbers[0], QStringLiteral("loud"));
+        QCOMPARE(strings.notes[1], QString());
+        QCOMPARE(strings.notes[2], QString(255, u'x'));
+    }
+
+    void WrittenStringsAreReadBack() {
+        const OpenStrings dropped{{QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("F#"),
+                                   QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("D")},
+                                  {QStringLiteral("22"), QStringLiteral("27"), QStringLiteral("30"),
+                                   QStringLiteral("34"), QStringLiteral("39"),
+                                   QStringLiteral("46")}};
+        ProfileFile file;
+        WriteOpenStrings(file, dropped);
+        QCOMPARE(file.ToBytes(),
+                 QByteArray("[Strings]\r\n1S=D\r\n2S=A\r\n3S=F#\r\n4S=D\r\n5S=A\r\n6S=D\r\n"
+                            "1K=22\r\n2K=27\r\n3K=30\r\n4K=34\r\n5K=39\r\n6K=46\r\n"));
+        const OpenStrings read = ReadOpenStrings(file);
+        QCOMPARE(read.notes, dropped.notes);
+        QCOMPARE(read.soundNumbers, dropped.soundNumbers);
+    }
+};
+
+QTEST_APPLESS_MAIN(SettingsTest)
+#include "settings_test.moc"
