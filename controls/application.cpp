@@ -67,22 +67,18 @@ void Application::ReportAtStart(const RunTimeError& error) {
 }
 
 void Application::Guard(const std::function<void()>& action) {
+    auto* application = static_cast<Application*>(qApp);
     try {
         action();
     } catch (const RunTimeError& error) {
-        Report(error);
+        application->Report(error);
     } catch (const std::bad_alloc&) {
-        Report(OutOfMemory());
+        application->Report(OutOfMemory());
     }
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
-    try {
-        return QApplication::notify(receiver, event);
-    } catch (const RunTimeError& error) {
-        Report(error);
-    } catch (const std::bad_alloc&) {
-        Report(OutOfMemory());
-    }
-    return true;
+    bool handled = true;
+    Guard([&] { handled = QApplication::notify(receiver, event); });
+    return handled;
 }

@@ -26,8 +26,9 @@ public:
     void SetEnd(std::function<void()> end) { m_end = std::move(end); }
 
     // Runs an action; a run-time error abandons it and is reported.
-    void Guard(const std::function<void()>& action);
+    static void Guard(const std::function<void()>& action);
 
+    // The last resort: handlers are guarded where they are connected.
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:

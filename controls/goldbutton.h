@@ -45,7 +45,7 @@ class GoldButton : public QAbstractButton {
     Q_PROPERTY(QFont Font READ font WRITE setFont)
 
 public:
-    enum ButtonStyle { bsNormal = 0, bsSkin = 1 };
+    enum ButtonStyle : int { bsNormal = 0, bsSkin = 1 };
     Q_ENUM(ButtonStyle)
 
     // The order of the parts in a skin picture, each skinStep pixels wide and high, from the

@@ -3,7 +3,9 @@
 #include "controls/application.h"
 #include "core/language.h"
 #include "core/settings.h"
+#include "diagrams/frmdiags.h"
 #include "info/frmsplash.h"
+#include "settings/frmsettings.h"
 
 #include <QDir>
 #include <QMessageBox>
@@ -71,5 +73,38 @@ void mdlMain::LoadLanguage() {
 }
 
 void mdlMain::ConnectWindows() {
+    QObject::connect(m_window.get(), &frmMain::SettingsAsked, m_window.get(),
+                     [this] { ShowSettings(); });
+    QObject::connect(m_window.get(), &frmMain::DiagramsAsked, m_window.get(),
+                     [this] { ShowDiagrams(); });
+    m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
     m_application.SetEnd([this] { m_window->close(); });
+}
+
+void mdlMain::ShowSettings() {
+    frmSettings dialog(
+        m_state, *m_midi, m_clock,
+        [this](const OpenStrings& strings, bool thinStringAtBottom) {
+            LayStrings(m_state, strings, thinStringAtBottom);
+            m_workbench->StringsChanged();
+            m_window->ShowState();
+        },
+        m_window.get());
+    Application::Guard([&dialog] { dialog.Form_Load(); });
+    dialog.exec();
+}
+
+void mdlMain::ShowDiagrams() {
+    if (!m_diagrams)
+        m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
+            BoardFingering board;
+            board.chordName = m_workbench->ChordName();
+            board.barreFret = m_workbench->ShownBarreFret();
+            for (int row = 0; row < stringCount; ++row)
+                board.marks[static_cast<std::size_t>(row)] = m_workbench->Row(row).mark;
+            return board;
+        });
+    m_diagrams->show();
+    m_diagrams->raise();
+    m_diagrams->activateWindow();
 }

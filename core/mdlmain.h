@@ -10,6 +10,7 @@
 #include <memory>
 
 class Application;
+class frmDiags;
 class frmSplash;
 
 class mdlMain {
@@ -28,6 +29,8 @@ public:
 private:
     void LoadLanguage();
     void ConnectWindows();
+    void ShowSettings();
+    void ShowDiagrams();
 
     Application& m_application;
     AppState m_state;
@@ -35,6 +38,7 @@ private:
     std::unique_ptr<MidiAPI> m_midi;
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
     std::unique_ptr<frmSplash> m_splash;
 };
 

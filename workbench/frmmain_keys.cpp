@@ -1,6 +1,7 @@
 // The main window's key table, ahead of whichever control has the focus.
 #include "workbench/frmmain.h"
 
+#include "controls/application.h"
 #include "core/numbers.h"
 
 #include <QKeyEvent>
@@ -20,7 +21,10 @@ int ModifierMask(Qt::KeyboardModifiers modifiers) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const auto* press = static_cast<QKeyEvent*>(event);
-        if (Form_KeyDown(press->key(), ModifierMask(press->modifiers())))
+        bool handled = true;
+        Application::Guard(
+            [&] { handled = Form_KeyDown(press->key(), ModifierMask(press->modifiers())); });
+        if (handled)
             return true;
     }
     return QWidget::eventFilter(watched, event);

@@ -3,6 +3,7 @@
 #include "workbench/frmmain.h"
 
 #include "controls/colours.h"
+#include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/upscrollbar.h"
 #include "workbench/spelling.h"
@@ -190,16 +191,16 @@ void frmMain::LayOut() {
 }
 
 void frmMain::Connect() {
-    connect(lstBase, &ListBox::RowChosen, this, &frmMain::lstBase_Click);
-    connect(lstType, &ListBox::RowChosen, this, &frmMain::lstType_Click);
-    connect(lstType, &ListBox::RowDoubleClicked, this, &frmMain::lstType_DblClick);
-    connect(lstLad, &ListBox::RowChosen, this, &frmMain::lstLad_Click);
-    connect(lstBarre, &DropDown::RowChosen, this, &frmMain::lstBarre_Click);
-    connect(lstLadBarre, &DropDown::RowChosen, this, &frmMain::lstLadBarre_Click);
-    connect(VScroll3, &QScrollBar::valueChanged, this, &frmMain::VScroll3_Change);
-    connect(txtFind, &QLineEdit::returnPressed, this, &frmMain::cmdFind_Click);
+    Handle(lstBase, &ListBox::RowChosen, this, &frmMain::lstBase_Click);
+    Handle(lstType, &ListBox::RowChosen, this, &frmMain::lstType_Click);
+    Handle(lstType, &ListBox::RowDoubleClicked, this, &frmMain::lstType_DblClick);
+    Handle(lstLad, &ListBox::RowChosen, this, &frmMain::lstLad_Click);
+    Handle(lstBarre, &DropDown::RowChosen, this, &frmMain::lstBarre_Click);
+    Handle(lstLadBarre, &DropDown::RowChosen, this, &frmMain::lstLadBarre_Click);
+    Handle(VScroll3, &QScrollBar::valueChanged, this, &frmMain::VScroll3_Change);
+    Handle(txtFind, &QLineEdit::returnPressed, this, &frmMain::cmdFind_Click);
     const auto click = [this](GoldButton* button, auto handler) {
-        connect(button, &GoldButton::Click, this, handler);
+        Handle(button, &GoldButton::Click, this, handler);
     };
     click(cmdFind, &frmMain::cmdFind_Click);
     click(cmdFindChord, &frmMain::cmdFindChord_Click);
@@ -214,21 +215,21 @@ void frmMain::Connect() {
     click(cmdSettings, &frmMain::SettingsAsked);
     click(cmdHelp, [this] { Q_EMIT HelpAsked(true); });
 
-    connect(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
-    connect(panel->picStrings, &TwipPicture::MouseMove, this, &frmMain::picStrings_MouseMove);
-    connect(panel->picStrings, &TwipPicture::MouseUp, this, &frmMain::picStrings_MouseUp);
-    connect(panel->picKeyboard, &TwipPicture::MouseDown, this, &frmMain::picKeyboard_MouseDown);
-    connect(panel->picKeyboard, &TwipPicture::MouseMove, this, &frmMain::picKeyboard_MouseMove);
+    Handle(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
+    Handle(panel->picStrings, &TwipPicture::MouseMove, this, &frmMain::picStrings_MouseMove);
+    Handle(panel->picStrings, &TwipPicture::MouseUp, this, &frmMain::picStrings_MouseUp);
+    Handle(panel->picKeyboard, &TwipPicture::MouseDown, this, &frmMain::picKeyboard_MouseDown);
+    Handle(panel->picKeyboard, &TwipPicture::MouseMove, this, &frmMain::picKeyboard_MouseMove);
     for (int index = 0; index < InstrumentPanel::fretLabels; ++index) {
         HotLabel* label = panel->Label3[static_cast<std::size_t>(index)];
-        connect(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });
-        connect(label, &HotLabel::MouseMove, this, [this, index] { Label3_MouseMove(index); });
+        Handle(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });
+        Handle(label, &HotLabel::MouseMove, this, [this, index] { Label3_MouseMove(index); });
     }
     for (int row = 0; row < stringCount; ++row) {
         HotLabel* label = panel->Label6[static_cast<std::size_t>(row)];
-        connect(label, &HotLabel::MouseDown, this,
-                [this, row](Qt::MouseButton button) { Label6_MouseDown(row, button); });
-        connect(label, &HotLabel::MouseMove, this, [this, row] { Label6_MouseMove(row); });
+        Handle(label, &HotLabel::MouseDown, this,
+               [this, row](Qt::MouseButton button) { Label6_MouseDown(row, button); });
+        Handle(label, &HotLabel::MouseMove, this, [this, row] { Label6_MouseMove(row); });
     }
     for (QWidget* widget : findChildren<QWidget*>())
         widget->installEventFilter(this);

@@ -113,6 +113,10 @@ void GoldButtonTest::init() {
     m_button = std::make_unique<GoldButton>(QStringLiteral("cmdTest"), m_window.get());
     m_button->setGeometry(20, 20, 120, 40);
     m_window->resize(200, 100);
+    QFont hard = m_window->font(); // Letters without grey edges can be counted.
+    hard.setStyleStrategy(QFont::NoAntialias);
+    hard.setBold(true);
+    m_window->setFont(hard);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     m_button->clearFocus();

@@ -1,0 +1,26 @@
+// Connecting a control's signal to its handler.
+#pragma once
+
+#include "controls/application.h"
+
+#include <functional>
+#include <type_traits>
+
+// Runs the handler (a member of the receiver, or a function; with the signal's arguments or
+// with none) at each signal. A run-time error that it throws is reported here: it must not
+// travel through the toolkit, which is not made for that.
+template <typename Sender, typename Signal, typename Receiver, typename Handler>
+void Handle(Sender* sender, Signal signal, Receiver* receiver, Handler handler) {
+    QObject::connect(sender, signal, receiver, [receiver, handler](auto... arguments) {
+        Application::Guard([&] {
+            if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>)
+                std::invoke(handler, receiver, arguments...);
+            else if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>)
+                std::invoke(handler, arguments...);
+            else if constexpr (std::is_invocable_v<Handler, Receiver*>)
+                std::invoke(handler, receiver);
+            else
+                std::invoke(handler);
+        });
+    });
+}

@@ -1,0 +1,18 @@
+// A fingering as one line of text.
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+// What stands on the fretboard, the bottom row first.
+struct BoardFingering {
+    QString chordName;
+    std::optional<int> barreFret;
+    std::array<std::optional<int>, 6> marks; // Frets of the finger marks; empty where hidden.
+};
+
+// "Am - 011000"; with a barre, "Am - Б5/000220": its fret, and the marks counted from it.
+// The numbers stand side by side, so frets of two digits and marks below the barre widen it.
+QString FingeringCode(const BoardFingering& board);

@@ -1,0 +1,125 @@
+// The sheet's controls and where they stand.
+#include "diagrams/frmdiags.h"
+
+#include "controls/handle.h"
+#include "controls/icons.h"
+#include "controls/twips.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QShortcut>
+
+namespace {
+
+constexpr int gap = 8;
+
+GoldButton* Button(const QString& name, Icon icon, QWidget* parent) {
+    auto* button = new GoldButton(name, parent);
+    button->SetCaption(QString());
+    button->SetPicture(MakeIcon(icon));
+    return button;
+}
+
+QFont SheetFont(int pointSize) {
+    QFont font(QStringLiteral("Courier New"));
+    if (!QFontInfo(font).fixedPitch())
+        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSize(pointSize);
+    return font;
+}
+
+} // namespace
+
+void frmDiags::CreateControls() {
+    cmdAdd = Button(QStringLiteral("cmdAdd"), Icon::Add, this);
+    cmdDel = Button(QStringLiteral("cmdDel"), Icon::Remove, this);
+    cmdClear = Button(QStringLiteral("cmdClear"), Icon::Clear, this);
+    cmdMake = Button(QStringLiteral("cmdMake"), Icon::WriteList, this);
+    lstMain = new ClickList(QStringLiteral("lstMain"), this);
+    GoldButton1 = Button(QStringLiteral("GoldButton1"), Icon::Open, this);
+    cmdSave = Button(QStringLiteral("cmdSave"), Icon::Save, this);
+    cmdCut = Button(QStringLiteral("cmdCut"), Icon::Cut, this);
+    cmdCopy = Button(QStringLiteral("cmdCopy"), Icon::Copy, this);
+    cmdPast = Button(QStringLiteral("cmdPast"), Icon::Paste, this);
+    GoldButton2 = Button(QStringLiteral("GoldButton2"), Icon::Dashes, this);
+    Text1 = new QLineEdit(QStringLiteral("60"), this);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    txtMain = new QPlainTextEdit(this);
+    txtMain->setObjectName(QStringLiteral("txtMain"));
+    txtMain->setFont(SheetFont(font().pointSize()));
+    txtMain->setLineWrapMode(QPlainTextEdit::NoWrap);
+    txtMain->setTabChangesFocus(false);
+}
+
+// The list with its buttons on the left, the text with its own on the right.
+void frmDiags::LayOut() {
+    const QSize button = cmdAdd->sizeHint();
+    int x = gap;
+    const auto place = [&](QWidget* control, int width) {
+        control->setGeometry(x, gap, width, button.height());
+        x += width + gap / 2;
+    };
+    for (GoldButton* control : {cmdAdd, cmdDel, cmdClear, cmdMake})
+        place(control, button.width());
+    const int top = gap + button.height() + gap;
+    const int listWidth = x - gap - gap / 2;
+    lstMain->setGeometry(gap, top, listWidth, 100);
+    x += gap;
+    const int textLeft = x;
+    for (GoldButton* control : {GoldButton1, cmdSave, cmdCut, cmdCopy, cmdPast, GoldButton2})
+        place(control, button.width());
+    place(Text1, fontMetrics().averageCharWidth() * 12);
+    txtMain->setGeometry(textLeft, top, 100, 100);
+    setMinimumSize(x + gap, top + 200);
+    const int letter = QFontMetrics(txtMain->font()).horizontalAdvance(u'0');
+    resize(std::max(minimumWidth(), textLeft + letter * 72), 480);
+}
+
+void frmDiags::Form_Resize() {
+    const double scale = PixelsPerTwip(*this);
+    const auto pixels = [scale](int twips) { return qRound(twips * scale); };
+    txtMain->resize(width() - txtMain->x() - pixels(200), height() - txtMain->y() - pixels(500));
+    lstMain->resize(lstMain->width(), height() - lstMain->y() - pixels(400));
+}
+
+void frmDiags::Connect() {
+    Handle(cmdAdd, &GoldButton::Click, this, &frmDiags::cmdAdd_Click);
+    Handle(cmdDel, &GoldButton::Click, this, &frmDiags::cmdDel_Click);
+    Handle(cmdClear, &GoldButton::Click, this, &frmDiags::cmdClear_Click);
+    Handle(cmdMake, &GoldButton::Click, this, &frmDiags::cmdMake_Click);
+    Handle(cmdCut, &GoldButton::Click, this, &frmDiags::cmdCut_Click);
+    Handle(cmdCopy, &GoldButton::Click, this, &frmDiags::cmdCopy_Click);
+    Handle(cmdPast, &GoldButton::Click, this, &frmDiags::cmdPast_Click);
+    Handle(GoldButton1, &GoldButton::Click, this, &frmDiags::GoldButton1_Click);
+    Handle(GoldButton2, &GoldButton::Click, this, &frmDiags::GoldButton2_Click);
+    Handle(cmdSave, &GoldButton::Click, this, &frmDiags::cmdSave_Click);
+    Handle(lstMain, &ClickList::Clicked, this, &frmDiags::lstMain_Click);
+    Handle(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this,
+           &frmDiags::GoldButton1_Click);
+    Handle(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
+           &frmDiags::cmdSave_Click);
+}
+
+void frmDiags::ApplyTongue() {
+    const auto hint = [this](QWidget* control, const char16_t* russian, const char16_t* english) {
+        const QString text =
+            QString::fromUtf16(m_state.InterfaceTongue() == Tongue::Russian ? russian : english);
+        control->setToolTip(text);
+        control->setAccessibleName(text);
+    };
+    hint(cmdAdd, u"Добавить аппликатуру с грифа", u"Add the fingering on the neck");
+    hint(cmdDel, u"Убрать выбранную строку", u"Remove the selected row");
+    hint(cmdClear, u"Очистить список", u"Clear the list");
+    hint(cmdMake, u"Вписать весь список в текст", u"Write the whole list into the text");
+    hint(lstMain, u"Аппликатуры: щелчок вписывает строку в текст",
+         u"Fingerings: a click writes the row into the text");
+    hint(GoldButton1, u"Открыть файл (Ctrl+O)", u"Open a file (Ctrl+O)");
+    hint(cmdSave, u"Сохранить в файл (Ctrl+S)", u"Save to a file (Ctrl+S)");
+    hint(cmdCut, u"Вырезать", u"Cut");
+    hint(cmdCopy, u"Копировать", u"Copy");
+    hint(cmdPast, u"Вставить", u"Paste");
+    hint(GoldButton2, u"Начертить шесть линий", u"Draw six lines");
+    hint(Text1, u"Длина линий в знаках", u"Length of the lines in characters");
+    txtMain->setAccessibleName(QString::fromUtf16(
+        m_state.InterfaceTongue() == Tongue::Russian ? u"Текст листа" : u"Text of the sheet"));
+}

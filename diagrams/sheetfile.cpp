@@ -1,0 +1,44 @@
+#include "diagrams/sheetfile.h"
+
+#include "core/codepage.h"
+#include "core/datafile.h"
+#include "core/runtimeerror.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+qint64 SheetSize(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.isFile())
+        ReadWholeFile(path); // Says why it cannot be read.
+    return file.size();
+}
+
+QString ReadSheet(const QString& path) {
+    QString text = FromAnsi(ReadWholeFile(path));
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(u'\r', u'\n');
+    if (text.endsWith(u'\n'))
+        text.chop(1);
+    text.replace(QChar::Null, u' '); // A text box cannot hold it.
+    return text;
+}
+
+void WriteSheet(const QString& path, const QString& text) {
+    if (const QString outside = OutsideAnsi(text); !outside.isEmpty())
+        throw RunTimeError(
+            {QStringLiteral("Файл не записан: этих знаков нет в кодовой странице: %1").arg(outside),
+             QStringLiteral("Nothing was written: the code page does not have these characters: %1")
+                 .arg(outside)});
+    QString lines = text + u'\n';
+    lines.replace(u'\n', QStringLiteral("\r\n"));
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(ToAnsi(lines));
+        if (file.commit())
+            return;
+    }
+    throw RunTimeError(
+        {QStringLiteral("Не удаётся записать файл «%1»: %2").arg(path, file.errorString()),
+         QStringLiteral("The file “%1” cannot be written: %2").arg(path, file.errorString())});
+}

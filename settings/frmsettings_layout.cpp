@@ -1,0 +1,215 @@
+// The settings dialog's controls, texts, and where they stand.
+#include "settings/frmsettings.h"
+
+#include "controls/cataloguemodel.h"
+#include "controls/goldbutton.h"
+#include "controls/handle.h"
+#include "controls/icons.h"
+#include "core/language.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+
+namespace {
+
+constexpr int gap = 8;
+constexpr int lowestNote = 12; // Positions in the note table, counted from 1.
+constexpr int highestNote = 24;
+constexpr int octaves = 4;
+
+// The labels of the strings 1 to 6 are not in the order of their names.
+constexpr std::array<const char16_t*, stringCount> labelNames{u"Label1", u"Label3", u"Label4",
+                                                              u"Label5", u"Label6", u"Label2"};
+constexpr std::array<const char16_t*, stringCount> labelTexts{
+    u"Тонкая струна:",    u"Вторая струна:", u"Третья струна:",
+    u"Четвертая струна:", u"Пятая струна:",  u"Шестая струна:"};
+constexpr std::array<const char16_t*, 4> optionTexts{
+    u"Стандартная (тонкая вверху)", u"Стандартная (тонкая внизу)",
+    u"Пользовательская (тонкая вверху):", u"Пользовательская (тонкая внизу):"};
+
+template <typename Widget>
+Widget* Named(Widget* widget, const QString& name) {
+    widget->setObjectName(name);
+    return widget;
+}
+
+QString Indexed(const char16_t* name, std::size_t index) {
+    return QStringLiteral("%1(%2)").arg(QString::fromUtf16(name)).arg(index);
+}
+
+} // namespace
+
+void frmSettings::CreateControls() {
+    Frame1 = Named(new QGroupBox(this), QStringLiteral("Frame1"));
+    Frame2 = Named(new QGroupBox(this), QStringLiteral("Frame2"));
+    Frame3 = Named(new QGroupBox(this), QStringLiteral("Frame3"));
+    for (std::size_t i = 0; i < Options.size(); ++i)
+        Options[i] = Named(new QRadioButton(Frame1), QStringLiteral("Option%1").arg(i + 1));
+    lstTunings = new ListBox(QStringLiteral("lstTunings"), Frame1);
+    lstTunings->setModel(new CatalogueModel(m_state.Tunings, lstTunings));
+    lstLang = new ListBox(QStringLiteral("lstLang"), Frame2);
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        StringLabels[i] = Named(new QLabel(Frame3), QString::fromUtf16(labelNames[i]));
+        Text1[i] = Named(new QLineEdit(Frame3), Indexed(u"Text1", i));
+        VScroll1[i] = new UpScrollBar(Indexed(u"VScroll1", i), lowestNote, highestNote, Frame3);
+        VScroll2[i] = new UpScrollBar(Indexed(u"VScroll2", i), 0, octaves, Frame3);
+        VScroll2[i]->setValue(octaves / 2);
+        VScroll2[i]->setProperty("Tag", QString::number(VScroll2[i]->value()));
+        // Beside the frame, not in it: a string can be heard while the frame is disabled.
+        Image1[i] = new GoldButton(Indexed(u"Image1", i), this);
+        Image1[i]->SetCaption(QString());
+        Image1[i]->SetPicture(MakeIcon(Icon::Listen));
+    }
+    Check1 = Named(new QCheckBox(this), QStringLiteral("Check1"));
+    Check1->setChecked(true);
+    cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    cmdCancel = Named(new QPushButton(this), QStringLiteral("cmdCancel"));
+    cmdCancel->setAutoDefault(false);
+}
+
+void frmSettings::ShowBuiltInTexts() {
+    setWindowTitle(QStringLiteral("Настройки"));
+    Frame1->setTitle(QStringLiteral("Настройка:"));
+    Frame2->setTitle(QStringLiteral("Язык интерфейса/Interface language:"));
+    Frame3->setTitle(QStringLiteral("Струны:"));
+    Check1->setText(QStringLiteral("Запоминать настройки"));
+    cmdCancel->setText(QStringLiteral("Отмена"));
+    for (std::size_t i = 0; i < Options.size(); ++i)
+        Options[i]->setText(QString::fromUtf16(optionTexts[i]));
+    for (std::size_t i = 0; i < stringCount; ++i)
+        StringLabels[i]->setText(QString::fromUtf16(labelTexts[i]));
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        Text1[i]->setText(standardStrings.notes[i]);
+        Text1[i]->setProperty("Tag", standardStrings.soundNumbers[i]);
+    }
+}
+
+void frmSettings::ApplyLanguage() {
+    const LanguageTexts texts(m_state.LanguageFile);
+    const auto text = [&](int key) { return texts.Text(QStringLiteral("Settings"), key); };
+    setWindowTitle(QStringLiteral("Settings"));
+    Frame1->setTitle(text(1));
+    Frame3->setTitle(text(2));
+    for (std::size_t i = 0; i < Options.size(); ++i)
+        Options[i]->setText(text(static_cast<int>(i) + 3));
+    Check1->setText(text(7));
+    for (std::size_t i = 0; i < stringCount; ++i)
+        StringLabels[i]->setText(text(static_cast<int>(i) + 8));
+    cmdCancel->setText(text(15));
+}
+
+void frmSettings::ApplyTongue() {
+    const Tongue tongue = m_state.InterfaceTongue();
+    const auto name = [&](QWidget* control, const char16_t* russian, const char16_t* english,
+                          std::size_t string) {
+        const QString text =
+            QString::fromUtf16(tongue == Tongue::Russian ? russian : english).arg(string + 1);
+        control->setAccessibleName(text);
+        control->setToolTip(text);
+    };
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        name(Text1[i], u"Нота струны %1", u"Note of string %1", i);
+        name(VScroll1[i], u"Выбрать ноту струны %1", u"Choose the note of string %1", i);
+        name(VScroll2[i], u"Октава струны %1", u"Octave of string %1", i);
+        name(Image1[i], u"Послушать струну %1", u"Listen to string %1", i);
+    }
+    lstTunings->setAccessibleName(tongue == Tongue::Russian ? QStringLiteral("Строи")
+                                                            : QStringLiteral("Tunings"));
+    lstLang->setAccessibleName(Frame2->title());
+}
+
+void frmSettings::LayOut() {
+    auto* tuning = new QVBoxLayout(Frame1);
+    tuning->setSpacing(gap / 2);
+    for (QRadioButton* option : Options)
+        tuning->addWidget(option);
+    lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 32, fontMetrics().height() * 7);
+    tuning->addWidget(lstTunings, 1);
+
+    auto* language = new QVBoxLayout(Frame2);
+    lstLang->setMinimumHeight(fontMetrics().height() * 5);
+    language->addWidget(lstLang);
+
+    // The listen buttons stand in a column of their own, in the rows of the frame beside it.
+    const int rowHeight =
+        std::max(Text1[0]->sizeHint().height(), Image1[0]->sizeHint().height()) + 2;
+    auto* strings = new QGridLayout(Frame3);
+    auto* listen = new QVBoxLayout;
+    strings->setSpacing(gap / 2);
+    listen->setSpacing(gap / 2);
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        const int row = static_cast<int>(i);
+        strings->addWidget(StringLabels[i], row, 0);
+        strings->addWidget(Text1[i], row, 1);
+        strings->addWidget(VScroll1[i], row, 2);
+        strings->addWidget(VScroll2[i], row, 3);
+        strings->setRowMinimumHeight(row, rowHeight);
+        Text1[i]->setFixedWidth(fontMetrics().averageCharWidth() * 8);
+        VScroll1[i]->setFixedHeight(rowHeight);
+        VScroll2[i]->setFixedHeight(rowHeight);
+        Image1[i]->setFixedHeight(rowHeight);
+        listen->addWidget(Image1[i]);
+    }
+    strings->setColumnStretch(0, 1);
+    Frame3->setFixedHeight(Frame3->sizeHint().height());
+    const QMargins frame = Frame3->contentsMargins() + strings->contentsMargins();
+    listen->setContentsMargins(0, frame.top(), 0, frame.bottom());
+
+    auto* stringRows = new QHBoxLayout;
+    stringRows->setSpacing(gap / 2);
+    stringRows->addWidget(Frame3, 1);
+    stringRows->addLayout(listen);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(Check1);
+    buttons->addStretch(1);
+    buttons->addWidget(cmdOK);
+    buttons->addWidget(cmdCancel);
+
+    auto* right = new QVBoxLayout;
+    right->addLayout(stringRows);
+    right->addWidget(Frame2, 1);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(gap);
+    columns->addWidget(Frame1);
+    columns->addLayout(right, 1);
+    auto* window = new QVBoxLayout(this);
+    window->setSpacing(gap);
+    window->addLayout(columns, 1);
+    window->addLayout(buttons);
+}
+
+void frmSettings::Connect() {
+    const std::array handlers{&frmSettings::Option1_Click, &frmSettings::Option2_Click,
+                              &frmSettings::Option3_Click, &frmSettings::Option4_Click};
+    for (std::size_t i = 0; i < Options.size(); ++i) {
+        const auto handler = handlers[i];
+        Handle(Options[i], &QRadioButton::toggled, this, [this, handler](bool checked) {
+            if (checked)
+                (this->*handler)();
+        });
+        // A click on an option that is checked already runs its handler, too.
+        Handle(Options[i], &QRadioButton::clicked, this, handler);
+    }
+    Handle(lstTunings, &ListBox::RowChosen, this, &frmSettings::lstTunings_Click);
+    for (int index = 0; index < stringCount; ++index) {
+        const auto i = static_cast<std::size_t>(index);
+        Handle(VScroll1[i], &QScrollBar::valueChanged, this,
+               [this, index] { VScroll1_Change(index); });
+        Handle(VScroll2[i], &QScrollBar::valueChanged, this,
+               [this, index] { VScroll2_Change(index); });
+        Handle(Image1[i], &GoldButton::Click, this, [this, index] { Image1_Click(index); });
+    }
+    Handle(cmdOK, &QPushButton::clicked, this, &frmSettings::cmdOK_Click);
+    Handle(cmdCancel, &QPushButton::clicked, this, &frmSettings::cmdCancel_Click);
+}
+
+void frmSettings::EnableStrings(bool enable) {
+    Frame3->setEnabled(enable);
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        Text1[i]->setEnabled(enable);
+        StringLabels[i]->setEnabled(enable);
+    }
+    lstTunings->setEnabled(enable);
+}
