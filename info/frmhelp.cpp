@@ -1,0 +1,122 @@
+#include "info/frmhelp.h"
+
+#include "controls/goldbutton.h"
+#include "controls/twips.h"
+#include "core/appstate.h"
+#include "core/language.h"
+#include "info/frmabout.h"
+#include "info/helptext.h"
+
+#include <QFontDatabase>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int textColumns = 80;
+constexpr int textLines = 32;
+
+// In twips: the text's place, and what the window's inside measures more than the text.
+constexpr int margin = 50;
+constexpr int besideText = 200;
+constexpr int belowText = 1000;
+constexpr int buttonGap = 100;
+
+QFont FixedFont() {
+    const QFont system = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font(QStringList{QStringLiteral("Courier New"), system.family()});
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPointSizeF(system.pointSizeF());
+    return font;
+}
+
+} // namespace
+
+frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Author author,
+                 QWidget* parent)
+    : InfoWindow(QStringLiteral("frmHelp"), parent),
+      Text1(new QPlainTextEdit(this)),
+      Command1(new GoldButton(QStringLiteral("Command1"), this)),
+      m_state(state),
+      m_chordRows(std::move(chordRows)),
+      m_author(std::move(author)) {
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setFont(FixedFont());
+    Text1->setReadOnly(true);
+    Text1->setUndoRedoEnabled(false);
+    Text1->setTabChangesFocus(true);
+    // With a caret, so that a screen reader can follow the keyboard through the text.
+    Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    connect(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
+    setTabOrder(Text1, Command1);
+    setTabOrder(Command1, cmdOK);
+    Form_Load();
+    OpenAtTextWidth();
+    Text1->setFocus();
+}
+
+void frmHelp::Form_Load() {
+    const Tongue tongue = m_state.InterfaceTongue();
+    Text1->setPlainText(FitForTextBox(ReadHelp(m_state.AppPath), tongue));
+    setWindowTitle(QStringLiteral("Помощь"));
+    Command1->SetCaption(QStringLiteral("О программе"));
+    if (!m_state.IsDefaultLanguage()) {
+        Command1->SetCaption(LanguageTexts(m_state.LanguageFile).Text(QStringLiteral("Help"), 1));
+        setWindowTitle(QStringLiteral("Help"));
+    }
+    Text1->setAccessibleName(
+        Phrase{QStringLiteral("Текст справки"), QStringLiteral("Help text")}.In(tongue));
+    cmdOK->setAccessibleDescription(
+        Phrase{QStringLiteral("Закрыть окно"), QStringLiteral("Close the window")}.In(tongue));
+}
+
+void frmHelp::Command1_Click() {
+    if (m_about.isNull()) {
+        m_about = new frmAbout(m_state, m_chordRows(), m_author, this);
+        m_about->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_about->show();
+    m_about->raise();
+    m_about->activateWindow();
+}
+
+void frmHelp::Form_Resize() {
+    const double pixels = PixelsPerTwip(*this);
+    const auto toPixels = [pixels](int twips) { return qRound(twips * pixels); };
+    const QRect text(toPixels(margin), toPixels(margin),
+                     std::max(0, width() - toPixels(besideText)),
+                     std::max(0, height() - toPixels(belowText)));
+    Text1->setGeometry(text);
+    const int top = text.y() + text.height() + toPixels(buttonGap);
+    const int right = text.x() + text.width();
+    cmdOK->move(right - cmdOK->width(), top);
+    Command1->move(cmdOK->x() - toPixels(buttonGap) - Command1->width(), top);
+}
+
+void frmHelp::resizeEvent(QResizeEvent* event) {
+    InfoWindow::resizeEvent(event);
+    Form_Resize();
+}
+
+// Wide enough for the columns of the text, and not larger than the screen.
+void frmHelp::OpenAtTextWidth() {
+    for (GoldButton* button : {cmdOK, Command1})
+        button->resize(
+            button->sizeHint().expandedTo(QSize(fontMetrics().averageCharWidth() * 14, 0)));
+    const double pixels = PixelsPerTwip(*this);
+    const QSize around(qRound(besideText * pixels), qRound(belowText * pixels));
+    const QFontMetricsF letters(Text1->font());
+    const double edges = 2 * (Text1->document()->documentMargin() + Text1->frameWidth());
+    const double bar = Text1->verticalScrollBar()->sizeHint().width();
+    const QSize text(qCeil(letters.horizontalAdvance(QString(textColumns, u'0')) + edges + bar),
+                     qCeil(letters.lineSpacing() * textLines + edges));
+    const int buttons = cmdOK->width() + Command1->width() + around.width() + around.width();
+    setMinimumSize(buttons, around.height() * 3);
+    resize((around + text).boundedTo(screen()->availableGeometry().size() * 0.9));
+    Form_Resize();
+}
