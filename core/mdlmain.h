@@ -11,6 +11,7 @@
 
 class Application;
 class frmDiags;
+class frmHelp;
 class frmSplash;
 
 class mdlMain {
@@ -29,6 +30,7 @@ public:
 private:
     void LoadLanguage();
     void ConnectWindows();
+    void ShowHelp(bool modal);
     void ShowSettings();
     void ShowDiagrams();
 
@@ -38,6 +40,7 @@ private:
     std::unique_ptr<MidiAPI> m_midi;
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<frmHelp> m_help;      // The one beside the main window.
     std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
     std::unique_ptr<frmSplash> m_splash;
 };

@@ -1,6 +1,7 @@
 #include "info/frmhelp.h"
 
 #include "controls/goldbutton.h"
+#include "controls/handle.h"
 #include "controls/twips.h"
 #include "core/appstate.h"
 #include "core/language.h"
@@ -52,7 +53,7 @@ frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Au
     Text1->setTabChangesFocus(true);
     // With a caret, so that a screen reader can follow the keyboard through the text.
     Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    connect(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
+    Handle(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
     setTabOrder(Text1, Command1);
     setTabOrder(Command1, cmdOK);
     Form_Load();
