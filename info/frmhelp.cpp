@@ -1,6 +1,7 @@
 #include "info/frmhelp.h"
 
 #include "controls/goldbutton.h"
+#include "controls/handle.h"
 #include "controls/twips.h"
 #include "core/appstate.h"
 #include "core/language.h"
@@ -52,7 +53,7 @@ frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Au
     Text1->setTabChangesFocus(true);
     // With a caret, so that a screen reader can follow the keyboard through the text.
     Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    connect(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
+    Handle(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
     setTabOrder(Text1, Command1);
     setTabOrder(Command1, cmdOK);
     Form_Load();
@@ -103,7 +104,8 @@ void frmHelp::resizeEvent(QResizeEvent* event) {
     Form_Resize();
 }
 
-// Wide enough for the columns of the text, and not larger than the screen.
+// Wide enough for the columns of the text and the overhang of a last letter, and not larger
+// than the screen.
 void frmHelp::OpenAtTextWidth() {
     for (GoldButton* button : {cmdOK, Command1})
         button->resize(
@@ -113,7 +115,7 @@ void frmHelp::OpenAtTextWidth() {
     const QFontMetricsF letters(Text1->font());
     const double edges = 2 * (Text1->document()->documentMargin() + Text1->frameWidth());
     const double bar = Text1->verticalScrollBar()->sizeHint().width();
-    const QSize text(qCeil(letters.horizontalAdvance(QString(textColumns, u'0')) + edges + bar),
+    const QSize text(qCeil(letters.horizontalAdvance(QString(textColumns + 1, u'0')) + edges + bar),
                      qCeil(letters.lineSpacing() * textLines + edges));
     const int buttons = cmdOK->width() + Command1->width() + around.width() + around.width();
     setMinimumSize(buttons, around.height() * 3);
