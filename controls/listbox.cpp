@@ -35,7 +35,7 @@ QString ListBox::RowText(int row) const {
 }
 
 QSize ListBox::sizeHint() const {
-    return {minimumWidth(), fontMetrics().height() * 12};
+    return QSize(0, fontMetrics().height() * 5).expandedTo(minimumSize());
 }
 
 void ListBox::SelectRow(int row) {

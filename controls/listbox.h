@@ -21,7 +21,7 @@ public:
     // The empty text for a row that is not there.
     QString RowText(int row) const;
 
-    // As wide as it must be, and a dozen rows high.
+    // As wide as it must be; a window that is larger gives it more.
     QSize sizeHint() const override;
 
     // Selects the row and runs its command, also when it is selected already; -1 selects

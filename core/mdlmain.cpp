@@ -5,8 +5,8 @@
 #include "core/language.h"
 #include "core/settings.h"
 #include "diagrams/frmdiags.h"
-#include "info/frmhelp.h"
 #include "info/frmsplash.h"
+#include "info/helpopener.h"
 #include "settings/frmsettings.h"
 
 #include <QDir>
@@ -75,27 +75,20 @@ void mdlMain::LoadLanguage() {
 }
 
 void mdlMain::ConnectWindows() {
-    Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(),
-           [this](bool modal) { ShowHelp(modal); });
+    m_help = std::make_unique<HelpOpener>(
+        m_state,
+        [this] { return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()}; },
+        m_window.get());
+    Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(), [this](bool modal) {
+        if (modal)
+            m_help->ShowModal();
+        else
+            m_help->Show();
+    });
     Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
     Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
     m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
     m_application.SetEnd([this] { m_window->close(); });
-}
-
-void mdlMain::ShowHelp(bool modal) {
-    const auto rows = [this] {
-        return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()};
-    };
-    if (modal) {
-        frmHelp(m_state, rows, ProgramAuthor(), m_window.get()).exec();
-        return;
-    }
-    if (!m_help)
-        m_help = std::make_unique<frmHelp>(m_state, rows);
-    m_help->show();
-    m_help->raise();
-    m_help->activateWindow();
 }
 
 void mdlMain::ShowSettings() {

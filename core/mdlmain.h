@@ -10,8 +10,8 @@
 #include <memory>
 
 class Application;
+class HelpOpener;
 class frmDiags;
-class frmHelp;
 class frmSplash;
 
 class mdlMain {
@@ -30,7 +30,6 @@ public:
 private:
     void LoadLanguage();
     void ConnectWindows();
-    void ShowHelp(bool modal);
     void ShowSettings();
     void ShowDiagrams();
 
@@ -40,7 +39,7 @@ private:
     std::unique_ptr<MidiAPI> m_midi;
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
-    std::unique_ptr<frmHelp> m_help;      // The one beside the main window.
+    std::unique_ptr<HelpOpener> m_help;
     std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
     std::unique_ptr<frmSplash> m_splash;
 };

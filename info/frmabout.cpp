@@ -1,6 +1,7 @@
 #include "info/frmabout.h"
 
 #include "controls/goldbutton.h"
+#include "controls/handle.h"
 #include "core/appstate.h"
 #include "core/phrase.h"
 #include "info/linklabel.h"
@@ -44,7 +45,7 @@ frmAbout::frmAbout(const AppState& state, const ChordRows& rows, const Author& a
       Label6(Label(6, this)),
       Label7(Label(7, this)),
       m_openLink([](const QUrl& link) { QDesktopServices::openUrl(link); }) {
-    connect(Label4, &LinkLabel::Click, this, &frmAbout::Label4_Click);
+    Handle(Label4, &LinkLabel::Click, this, &frmAbout::Label4_Click);
     Form_Load(state, rows, author);
     LayOut();
     cmdOK->setFocus();

@@ -104,7 +104,8 @@ void frmHelp::resizeEvent(QResizeEvent* event) {
     Form_Resize();
 }
 
-// Wide enough for the columns of the text, and not larger than the screen.
+// Wide enough for the columns of the text and the overhang of a last letter, and not larger
+// than the screen.
 void frmHelp::OpenAtTextWidth() {
     for (GoldButton* button : {cmdOK, Command1})
         button->resize(
@@ -114,7 +115,7 @@ void frmHelp::OpenAtTextWidth() {
     const QFontMetricsF letters(Text1->font());
     const double edges = 2 * (Text1->document()->documentMargin() + Text1->frameWidth());
     const double bar = Text1->verticalScrollBar()->sizeHint().width();
-    const QSize text(qCeil(letters.horizontalAdvance(QString(textColumns, u'0')) + edges + bar),
+    const QSize text(qCeil(letters.horizontalAdvance(QString(textColumns + 1, u'0')) + edges + bar),
                      qCeil(letters.lineSpacing() * textLines + edges));
     const int buttons = cmdOK->width() + Command1->width() + around.width() + around.width();
     setMinimumSize(buttons, around.height() * 3);

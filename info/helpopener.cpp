@@ -1,0 +1,29 @@
+#include "info/helpopener.h"
+
+#include "info/frmhelp.h"
+
+HelpOpener::HelpOpener(const AppState& state, std::function<ChordRows()> chordRows,
+                       QWidget* mainWindow)
+    : m_state(state), m_chordRows(std::move(chordRows)), m_mainWindow(mainWindow) {}
+
+HelpOpener::~HelpOpener() {
+    delete m_help;
+}
+
+void HelpOpener::Show() {
+    if (m_help.isNull()) {
+        m_help = new frmHelp(m_state, m_chordRows);
+        m_help->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    if (m_help->isMinimized())
+        m_help->showNormal();
+    m_help->show();
+    m_help->raise();
+    m_help->activateWindow();
+}
+
+void HelpOpener::ShowModal() {
+    frmHelp help(m_state, m_chordRows, ProgramAuthor(), m_mainWindow);
+    delete m_help;
+    help.exec();
+}
