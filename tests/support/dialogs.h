@@ -8,10 +8,11 @@
 #include <QTimer>
 
 #include <functional>
+#include <type_traits>
 
 // Calls answer with the next modal window of the kind that opens.
 template <typename Window = QWidget>
-void WhenModal(const std::function<void(Window*)>& answer) {
+void WhenModal(const std::type_identity_t<std::function<void(Window*)>>& answer) {
     QTimer::singleShot(0, qApp, [answer] {
         if (auto* modal = qobject_cast<Window*>(QApplication::activeModalWidget()))
             answer(modal);
