@@ -188,14 +188,18 @@ private Q_SLOTS:
     }
 
     void EveryTextFits() {
+        const Author longName{QStringLiteral("Maximiliane Bartholomäus-Feuerstein"),
+                              QStringLiteral("maximiliane@bartholomaeus-feuerstein.example.org")};
         for (const AppState& state : {Russian(), English()}) {
-            frmAbout about(state, someRows, someone);
+            frmAbout about(state, someRows, longName);
             ShowActive(about);
             for (const auto* label : about.findChildren<QLabel*>()) {
                 QVERIFY(about.rect().contains(label->geometry()));
-                const int needed = label->wordWrap() ? label->heightForWidth(label->width())
-                                                     : label->sizeHint().height();
-                QVERIFY2(label->height() >= needed, qPrintable(label->objectName()));
+                const QSize needed = label->wordWrap()
+                                         ? QSize(0, label->heightForWidth(label->width()))
+                                         : label->sizeHint();
+                QVERIFY2(label->size().expandedTo(needed) == label->size(),
+                         qPrintable(label->objectName()));
             }
         }
     }
