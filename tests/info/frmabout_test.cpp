@@ -1,4 +1,5 @@
 // About: its texts in both languages, the count of chords and the mail link.
+#include "controls/application.h"
 #include "core/appstate.h"
 #include "core/language.h"
 #include "core/runtimeerror.h"
@@ -205,5 +206,9 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(FrmAboutTest)
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    FrmAboutTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "frmabout_test.moc"
