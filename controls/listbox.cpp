@@ -34,6 +34,10 @@ QString ListBox::RowText(int row) const {
     return model()->index(row, 0).data().toString();
 }
 
+QSize ListBox::sizeHint() const {
+    return QSize(0, fontMetrics().height() * 5).expandedTo(minimumSize());
+}
+
 void ListBox::SelectRow(int row) {
     if (row == -1) {
         selectionModel()->clear();

@@ -21,6 +21,9 @@ public:
     // The empty text for a row that is not there.
     QString RowText(int row) const;
 
+    // As wide as it must be; a window that is larger gives it more.
+    QSize sizeHint() const override;
+
     // Selects the row and runs its command, also when it is selected already; -1 selects
     // nothing. A run-time error for any other row that is not there.
     void SelectRow(int row);

@@ -1,10 +1,12 @@
 #include "core/mdlmain.h"
 
 #include "controls/application.h"
+#include "controls/handle.h"
 #include "core/language.h"
 #include "core/settings.h"
 #include "diagrams/frmdiags.h"
 #include "info/frmsplash.h"
+#include "info/helpopener.h"
 #include "settings/frmsettings.h"
 
 #include <QDir>
@@ -73,10 +75,18 @@ void mdlMain::LoadLanguage() {
 }
 
 void mdlMain::ConnectWindows() {
-    QObject::connect(m_window.get(), &frmMain::SettingsAsked, m_window.get(),
-                     [this] { ShowSettings(); });
-    QObject::connect(m_window.get(), &frmMain::DiagramsAsked, m_window.get(),
-                     [this] { ShowDiagrams(); });
+    m_help = std::make_unique<HelpOpener>(
+        m_state,
+        [this] { return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()}; },
+        m_window.get());
+    Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(), [this](bool modal) {
+        if (modal)
+            m_help->ShowModal();
+        else
+            m_help->Show();
+    });
+    Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
+    Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
     m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
     m_application.SetEnd([this] { m_window->close(); });
 }

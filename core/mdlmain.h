@@ -10,6 +10,7 @@
 #include <memory>
 
 class Application;
+class HelpOpener;
 class frmDiags;
 class frmSplash;
 
@@ -38,6 +39,7 @@ private:
     std::unique_ptr<MidiAPI> m_midi;
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<HelpOpener> m_help;
     std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
     std::unique_ptr<frmSplash> m_splash;
 };

@@ -124,7 +124,7 @@ void frmSettings::LayOut() {
     tuning->setSpacing(gap / 2);
     for (QRadioButton* option : Options)
         tuning->addWidget(option);
-    lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 32, fontMetrics().height() * 7);
+    lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 7);
     tuning->addWidget(lstTunings, 1);
 
     auto* language = new QVBoxLayout(Frame2);

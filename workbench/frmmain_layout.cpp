@@ -240,14 +240,12 @@ void frmMain::OpenAtBestSize() {
     constexpr double share = 0.8; // Of the screen.
     constexpr double step = 0.5;
     const QSize room = screen()->availableGeometry().size() * share;
-    const QSize around = layout()->totalMinimumSize() - panel->minimumSizeHint();
+    const QSize around = layout()->totalSizeHint() - panel->sizeHint();
+    const auto windowAt = [&](double scale) {
+        return (around + InstrumentPanel::SizeAt(scale)).expandedTo(layout()->totalMinimumSize());
+    };
     double scale = 1;
-    for (double larger = scale + step;; larger += step) {
-        const QSize size =
-            (around + InstrumentPanel::SizeAt(larger)).expandedTo(layout()->totalMinimumSize());
-        if (size.width() > room.width() || size.height() > room.height())
-            break;
-        scale = larger;
-    }
-    resize((around + InstrumentPanel::SizeAt(scale)).expandedTo(layout()->totalMinimumSize()));
+    while (QRect({}, room).contains(QRect({}, windowAt(scale + step))))
+        scale += step;
+    resize(windowAt(scale));
 }

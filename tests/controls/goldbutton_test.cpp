@@ -2,6 +2,7 @@
 #include "controls/application.h"
 #include "controls/colours.h"
 #include "controls/goldbutton.h"
+#include "controls/handle.h"
 #include "controls/icons.h"
 #include "core/runtimeerror.h"
 #include "support/dialogs.h"
@@ -295,7 +296,7 @@ void GoldButtonTest::DisabledIsDeaf() {
 }
 
 void GoldButtonTest::HandlerThatFails() {
-    connect(m_button.get(), &GoldButton::Click, m_button.get(), [] {
+    Handle(m_button.get(), &GoldButton::Click, m_button.get(), [] {
         throw RunTimeError({QStringLiteral("нет"), QStringLiteral("no")});
     });
     BoxSeen box;

@@ -8,14 +8,16 @@
 #include <QTimer>
 
 #include <functional>
+#include <type_traits>
 
-// Calls answer with the next modal window that opens.
-inline void WhenModal(const std::function<void(QWidget*)>& answer) {
+// Calls answer with the next modal window of the kind that opens.
+template <typename Window = QWidget>
+void WhenModal(const std::type_identity_t<std::function<void(Window*)>>& answer) {
     QTimer::singleShot(0, qApp, [answer] {
-        if (QWidget* modal = QApplication::activeModalWidget())
+        if (auto* modal = qobject_cast<Window*>(QApplication::activeModalWidget()))
             answer(modal);
         else
-            WhenModal(answer);
+            WhenModal<Window>(answer);
     });
 }
 
@@ -31,10 +33,7 @@ struct BoxSeen {
 
 // Answers the next message box by a button's role or, failing that, by its first button.
 inline void AnswerBox(BoxSeen& seen, QMessageBox::ButtonRole role = QMessageBox::AcceptRole) {
-    WhenModal([&seen, role](QWidget* modal) {
-        auto* box = qobject_cast<QMessageBox*>(modal);
-        if (box == nullptr)
-            qFatal("the modal window is no message box");
+    WhenModal<QMessageBox>([&seen, role](QMessageBox* box) {
         seen = {true,        box->objectName(),     box->text(), box->windowTitle(),
                 box->icon(), box->standardButtons()};
         for (auto* button : box->buttons())

@@ -19,7 +19,7 @@ public:
     }
 
     double now = 100;
-    double late = 0; // How long after the moment a wait comes back.
+    double late = 0;              // How long after the moment a wait comes back.
     std::function<void()> onWait; // Events that come in during a wait.
 };
 
