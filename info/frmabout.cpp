@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int gap = 8;
@@ -128,7 +130,8 @@ void frmAbout::LayOut() {
     window->addWidget(cmdOK, 0, Qt::AlignRight);
     cmdOK->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
 
-    const int width = fontMetrics().averageCharWidth() * lettersAcross;
+    const int width = std::max(fontMetrics().averageCharWidth() * lettersAcross,
+                               window->totalMinimumSize().width());
     setFixedSize(width, window->totalHeightForWidth(width));
 }
 

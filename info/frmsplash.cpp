@@ -115,8 +115,8 @@ void frmSplash::ShowBar() {
 
 QRect frmSplash::Place(const QRect& twips) const {
     const double pixels = PixelsPerTwip(*this);
-    return QRect(QPoint(qRound(twips.x() * pixels), qRound(twips.y() * pixels)),
-                 QSize(qRound(twips.width() * pixels), qRound(twips.height() * pixels)));
+    return {qRound(twips.x() * pixels), qRound(twips.y() * pixels), qRound(twips.width() * pixels),
+            qRound(twips.height() * pixels)};
 }
 
 void frmSplash::AddText(const QString& name, const QString& text, const QRect& twips,

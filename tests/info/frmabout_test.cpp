@@ -1,4 +1,5 @@
 // About: its texts in both languages, the count of chords and the mail link.
+#include "controls/application.h"
 #include "core/appstate.h"
 #include "core/language.h"
 #include "core/runtimeerror.h"
@@ -188,18 +189,26 @@ private Q_SLOTS:
     }
 
     void EveryTextFits() {
+        const Author longName{QStringLiteral("Maximiliane Bartholomäus-Feuerstein"),
+                              QStringLiteral("maximiliane@bartholomaeus-feuerstein.example.org")};
         for (const AppState& state : {Russian(), English()}) {
-            frmAbout about(state, someRows, someone);
+            frmAbout about(state, someRows, longName);
             ShowActive(about);
             for (const auto* label : about.findChildren<QLabel*>()) {
                 QVERIFY(about.rect().contains(label->geometry()));
-                const int needed = label->wordWrap() ? label->heightForWidth(label->width())
-                                                     : label->sizeHint().height();
-                QVERIFY2(label->height() >= needed, qPrintable(label->objectName()));
+                const QSize needed = label->wordWrap()
+                                         ? QSize(0, label->heightForWidth(label->width()))
+                                         : label->sizeHint();
+                QVERIFY2(label->size().expandedTo(needed) == label->size(),
+                         qPrintable(label->objectName()));
             }
         }
     }
 };
 
-QTEST_MAIN(FrmAboutTest)
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    FrmAboutTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "frmabout_test.moc"
