@@ -46,16 +46,16 @@ void PaintWood(QPainter& painter) {
     roundness.setColorAt(0.75, wood);
     roundness.setColorAt(1, woodDark);
     painter.fillRect(neck, roundness);
-    // Grain: long waves that never repeat along the neck.
-    for (int line = 0; line < 26; ++line) {
-        QPainterPath grain;
-        const double y = neckTop + 20 + line * 79;
-        grain.moveTo(0, y);
-        for (double x = 0; x <= neck.right() + 240; x += 240)
-            grain.lineTo(x, y + 22 * std::sin(x / (900 + 37 * line) + line * 1.7));
-        painter.setPen(QPen(line % 3 == 0 ? QColor(0, 0, 0, 46) : QColor(255, 220, 180, 16), 14));
-        painter.drawPath(grain);
+    // Grain: streaks along the neck, strewn so evenly irregular that no pattern shows.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int streak = 0; streak < 150; ++streak) {
+        const double x = std::fmod(streak * 4637.0, neck.width() + 1800) - 1800;
+        const double y = neckTop + std::fmod(streak * 1279.0, neck.height() - 20);
+        const double length = 900 + streak % 7 * 260;
+        const QColor shade = streak % 3 == 0 ? QColor(255, 220, 180, 14) : QColor(0, 0, 0, 34);
+        painter.fillRect(QRectF(x, y, length, 15), shade);
     }
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(QRectF(0, neckTop - 30, neck.width(), 30), binding);
     painter.fillRect(QRectF(0, neckBottom, neck.width(), 30), binding);
 }
