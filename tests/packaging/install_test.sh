@@ -1,0 +1,57 @@
+# An installation is the program folder as it was built, with its place in the menu; removing
+# it leaves what is the user's, and nothing else.
+source "$(dirname "${BASH_SOURCE[0]}")/check.sh"
+
+# check_installation PREFIX SHARE
+check_installation() {
+    local file
+    same "The program folder" "$(program_files)" "$(files_of "$1/tonvik")"
+    program_files | while read -r file; do
+        cmp -- "$build_dir/tonvik/$file" "$1/tonvik/$file"
+    done
+    [ -x "$1/tonvik/tonvik" ]
+    same "The menu entry, icons and description" \
+"./applications/tonvik.desktop
+$(printf './icons/hicolor/%s/apps/tonvik.png\n' 128x128 16x16 24x24 256x256 32x32 48x48 64x64)
+./icons/hicolor/scalable/apps/tonvik.svg
+./metainfo/org.tonvik.Tonvik.metainfo.xml" "$(files_of "$2")"
+}
+
+# The whole program folder: 36 keys and their sounds among it.
+same "The keys' sounds" 36 "$(program_files | grep -c '^\./sounds/keys/')"
+
+prefix="$temporary/a folder"
+mkdir "$prefix"
+echo "the user's" > "$prefix/other"
+install_into "$prefix"
+check_installation "$prefix" "$prefix/share"
+
+# Installed anew over an earlier version, which had a file more.
+touch "$prefix/tonvik/old.lng"
+echo "$prefix/tonvik/old.lng" >> "$prefix/tonvik.installed"
+install_into "$prefix"
+
+touch "$prefix/tonvik/tonvik.ini" "$prefix/tonvik/chords.dat"
+"$source_dir/packaging/uninstall" --prefix "$prefix"
+same "What is left for the user" "./other
+./tonvik/chords.dat
+./tonvik/tonvik.ini" "$(files_of "$prefix")"
+same "Folders left" ". ./tonvik" "$(cd "$prefix" && echo $(find . -type d))"
+
+# Once more, now with the settings; nothing is left but what was there before.
+rm "$prefix/tonvik/chords.dat"
+install_into "$prefix"
+(cd "$temporary" && "$source_dir/packaging/uninstall" --prefix "a folder" --settings)
+same "With the settings removed" "./other" "$(cd "$prefix" && find . -mindepth 1)"
+
+# A home of its own: the entry goes into the home's menu.
+export HOME="$temporary/home"
+mkdir "$HOME"
+unset XDG_DATA_HOME
+install_into "$HOME/.local/opt"
+check_installation "$HOME/.local/opt" "$HOME/.local/share"
+"$source_dir/packaging/uninstall"
+same "The home" "" "$(find "$temporary" -path '*home/*')"
+if "$source_dir/packaging/uninstall" 2>/dev/null; then
+    same "Nothing to remove" "a failure" "success"
+fi
