@@ -1,36 +1,49 @@
-# Installs what is missing of the given groups of packaging/packages. Sourced by ./run and
-# ./test; needs root or sudo, and elsewhere names what is missing and stops.
+# What ./run and ./test have in common: installing and building. Sourced by them, in the
+# project's folder.
 
+# Installs what is missing of the given groups of packaging/packages. Where that cannot be
+# done, names what is missing and ends the script.
 install_missing() {
     local groups=" $* " group package
-    local missing=()
-    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        echo "This is no Debian system; it must provide what packaging/packages lists." >&2
-        return 0
-    fi
+    local missing=() as_root=()
     while read -r group package; do
-        case "$groups" in *" $group "*) ;; *) continue ;; esac
-        dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+        [[ $groups == *" $group "* ]] || continue
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
             missing+=("$package")
-    done < <(grep -v '^#' packaging/packages)
-    [ ${#missing[@]} -eq 0 ] && return 0
+    done < packaging/packages
+    [ ${#missing[@]} -eq 0 ] && return
 
-    local as_root=()
+    if ! command -v apt-get >/dev/null; then
+        stop_without "There is no apt-get here to install them; these are Debian's names." \
+            "${missing[@]}"
+    fi
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null || ! sudo -v; then
-            echo "Please install these packages first: ${missing[*]}" >&2
-            exit 1
+            stop_without "Only root can install them:
+    apt-get install --no-install-recommends ${missing[*]}" "${missing[@]}"
         fi
         as_root=(sudo)
     fi
     echo "Installing ${missing[*]}"
     "${as_root[@]}" apt-get update -qq
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+        apt-get install -qq --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null
 }
 
-# Configures (once) and builds a preset.
+# stop_without REASON PACKAGE...
+stop_without() {
+    local reason=$1
+    shift
+    printf 'Missing: %s\n%s\n' "$*" "$reason" >&2
+    exit 1
+}
+
+# build_preset PRESET [TARGET]: configures and builds, anew only what has changed. Says how far
+# it is on a terminal, and elsewhere only what is wrong.
 build_preset() {
-    [ -f "build/$1/build.ninja" ] || cmake --preset "$1"
-    cmake --build --preset "$1"
+    local log=build/$1.log quiet=()
+    mkdir -p build
+    cmake --preset "$1" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    [ -t 1 ] || quiet=(-- --quiet)
+    cmake --build --preset "$1" --target "${2:-all}" "${quiet[@]}"
 }
