@@ -1,12 +1,11 @@
 // The sheet's controls and where they stand.
 #include "diagrams/frmdiags.h"
 
+#include "controls/fixedfont.h"
 #include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/twips.h"
 
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QShortcut>
 
 namespace {
@@ -18,14 +17,6 @@ GoldButton* Button(const QString& name, Icon icon, QWidget* parent) {
     button->SetCaption(QString());
     button->SetPicture(MakeIcon(icon));
     return button;
-}
-
-QFont SheetFont(int pointSize) {
-    QFont font(QStringLiteral("Courier New"));
-    if (!QFontInfo(font).fixedPitch())
-        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSize(pointSize);
-    return font;
 }
 
 } // namespace
@@ -46,7 +37,7 @@ void frmDiags::CreateControls() {
     Text1->setObjectName(QStringLiteral("Text1"));
     txtMain = new QPlainTextEdit(this);
     txtMain->setObjectName(QStringLiteral("txtMain"));
-    txtMain->setFont(SheetFont(font().pointSize()));
+    txtMain->setFont(FixedFont());
     txtMain->setLineWrapMode(QPlainTextEdit::NoWrap);
     txtMain->setTabChangesFocus(false);
 }

@@ -1,5 +1,6 @@
 #include "info/frmhelp.h"
 
+#include "controls/fixedfont.h"
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
 #include "controls/twips.h"
@@ -8,7 +9,6 @@
 #include "info/frmabout.h"
 #include "info/helptext.h"
 
-#include <QFontDatabase>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollBar>
@@ -26,14 +26,6 @@ constexpr int margin = 50;
 constexpr int besideText = 200;
 constexpr int belowText = 1000;
 constexpr int buttonGap = 100;
-
-QFont FixedFont() {
-    const QFont system = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    QFont font(QStringList{QStringLiteral("Courier New"), system.family()});
-    font.setStyleHint(QFont::TypeWriter);
-    font.setPointSizeF(system.pointSizeF());
-    return font;
-}
 
 } // namespace
 

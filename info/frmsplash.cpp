@@ -6,6 +6,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 
 #include <array>
 
@@ -96,6 +97,7 @@ frmSplash::frmSplash(const Author& author)
     AddText(QStringLiteral("lblInfo"), credit, place(firstLine + lineStep), font());
     AddText(QStringLiteral("Label3"), QStringLiteral("Please, wait a minute..."),
             place(firstLine + 2 * lineStep), font());
+    move(screen()->availableGeometry().center() - rect().center());
 }
 
 void frmSplash::ProgressStep() {

@@ -128,7 +128,7 @@ void frmSettings::LayOut() {
     tuning->addWidget(lstTunings, 1);
 
     auto* language = new QVBoxLayout(Frame2);
-    lstLang->setMinimumHeight(fontMetrics().height() * 5);
+    lstLang->setMinimumHeight(fontMetrics().height() * 7);
     language->addWidget(lstLang);
 
     // The listen buttons stand in a column of their own, in the rows of the frame beside it.

@@ -1,0 +1,75 @@
+// Opening the settings dialog, and the sheet's long texts.
+#include "controls/application.h"
+#include "diagrams/frmdiags.h"
+#include "diagrams/sheetfile.h"
+#include "settings/frmsettings.h"
+#include "support/recordingsound.h"
+
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+void OpenSettings(benchmark::State& state) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("tunings.dat")));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write the benchmark's file");
+    for (qint64 i = 36; i < state.range(0); ++i)
+        file.write("Tuning" + QByteArray::number(i) + "\r\nE,B,G,D,A,E\r\n");
+    file.close();
+    AppState shared;
+    shared.AppPath = folder.path() + u'/';
+    shared.Tunings.AppendDataFile(file.fileName());
+    HandClock clock;
+    RecordingPlayer midi(clock);
+    for (auto _ : state) {
+        frmSettings dialog(shared, midi, clock, [](const OpenStrings&, bool) {});
+        dialog.Form_Load();
+        dialog.show();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(OpenSettings)->Arg(36)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+void OpenLongestSheet(benchmark::State& state) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("s.txt")));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write the benchmark's file");
+    file.write(
+        QByteArray("Am - 011000 and a line of a song\r\n").repeated(1500).left(longestSheet));
+    file.close();
+    AppState shared;
+    frmDiags sheet(shared, [] { return BoardFingering{}; });
+    sheet.show();
+    for (auto _ : state) {
+        sheet.txtMain->setPlainText(ReadSheet(file.fileName()));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(OpenLongestSheet)->Unit(benchmark::kMillisecond);
+
+void WriteThousandCodes(benchmark::State& state) {
+    AppState shared;
+    frmDiags sheet(shared, [] { return BoardFingering{QStringLiteral("Am"), 5, {}}; });
+    for (int i = 0; i < 1000; ++i)
+        sheet.cmdAdd_Click();
+    sheet.show();
+    for (auto _ : state) {
+        sheet.txtMain->clear();
+        sheet.cmdMake_Click();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(WriteThousandCodes)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
