@@ -25,9 +25,15 @@ install_missing() {
         as_root=(sudo)
     fi
     echo "Installing ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -qq --no-install-recommends -o Dpkg::Use-Pty=0 "${missing[@]}" >/dev/null
+    quietly "${as_root[@]}" apt-get update -qq
+    quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -qq --no-install-recommends "${missing[@]}"
+}
+
+# quietly COMMAND...: shows what the command says only where it fails, and ends the script then.
+quietly() {
+    local said
+    said=$("$@" 2>&1) || { printf '%s\n' "$said" >&2; exit 1; }
 }
 
 # stop_without REASON PACKAGE...
@@ -41,9 +47,8 @@ stop_without() {
 # build_preset PRESET [TARGET]: configures and builds, anew only what has changed. Says how far
 # it is on a terminal, and elsewhere only what is wrong.
 build_preset() {
-    local log=build/$1.log quiet=()
-    mkdir -p build
-    cmake --preset "$1" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    local quiet=()
+    quietly cmake --preset "$1"
     [ -t 1 ] || quiet=(-- --quiet)
     cmake --build --preset "$1" --target "${2:-all}" "${quiet[@]}"
 }

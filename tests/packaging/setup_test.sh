@@ -29,7 +29,7 @@ install_as_played() {
 same "As root" "Installing gone half
 reached" "$(install_as_played build run)"
 same "As root" "update -qq
-install -qq --no-install-recommends -o Dpkg::Use-Pty=0 gone half" "$(cat "$log")"
+install -qq --no-install-recommends gone half" "$(cat "$log")"
 
 play id 'echo 1000'
 same "Without sudo" "Missing: gone half
@@ -42,7 +42,12 @@ play sudo '[ "$1" = -v ] || { echo -n "sudo " >> '"'$log'"'; "$@"; }'
 same "Through sudo" "Installing gone
 reached" "$(install_as_played build)"
 same "Through sudo" "sudo update -qq
-sudo install -qq --no-install-recommends -o Dpkg::Use-Pty=0 gone" "$(cat "$log")"
+sudo install -qq --no-install-recommends gone" "$(cat "$log")"
+
+play apt-get 'echo "No such package."; exit 100'
+same "A failing installation" "Installing gone
+No such package.
+failed" "$(install_as_played build)"
 
 rm "$commands/apt-get"
 same "Without apt-get" "Missing: gone
