@@ -1,5 +1,6 @@
 #include "controls/application.h"
 
+#include "controls/accessiblepicture.h"
 #include "controls/theme.h"
 #include "core/runtimeerror.h"
 
@@ -29,6 +30,7 @@ RunTimeError OutOfMemory() {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     ApplyTheme(*this);
+    InstallAccessiblePictures();
     setQuitOnLastWindowClosed(false);
 }
 

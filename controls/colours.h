@@ -20,11 +20,13 @@ constexpr QColor buttonShadow(0xA8, 0x9B, 0x87);
 constexpr QColor buttonDark(0x6B, 0x60, 0x52);
 constexpr QColor selection(0x8C, 0x4A, 0x1C); // Behind the selected row; white text on it.
 constexpr QColor selectionText(0xFF, 0xFF, 0xFF);
-constexpr QColor focus(0x1F, 0x5F, 0xAE); // The ring around what the keyboard works on.
+constexpr QColor focus(0x1F, 0x5F, 0xAE);           // The ring around what the keyboard works on.
+constexpr QColor focusOnPictures(0xFF, 0xFF, 0xFF); // Beside that ring where all is dark.
 constexpr QColor toolTip(0xFF, 0xFB, 0xE6);
 
 // Prescribed on the instruments.
 constexpr QColor mark(0xFF, 0x00, 0x00);
+constexpr QColor behindMark(0x00, 0x00, 0x00); // Red text reads at 5.2 to 1 here, at 3.6 on window.
 constexpr QColor highlight(0x00, 0x00, 0xFF);
 constexpr QColor normalText(0x00, 0x00, 0x00);
 constexpr QColor whiteKey(0xFF, 0xFF, 0xFF);

@@ -1,12 +1,21 @@
 #include "controls/twippicture.h"
 
-#include <QMouseEvent>
+#include "controls/accessiblepicture.h"
+#include "controls/application.h"
+#include "controls/colours.h"
 
-TwipPicture::TwipPicture(const QString& name, QSizeF size, QWidget* parent)
-    : QWidget(parent), m_size(size) {
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+TwipPicture::TwipPicture(const QString& name, QSizeF size, int pageUp, QWidget* parent)
+    : QWidget(parent), m_size(size), m_pageUp(pageUp) {
     setObjectName(name);
     setMouseTracking(true);
     setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -20,6 +29,20 @@ QPointF TwipPicture::ToTwips(QPointF pixels) const {
 
 QRectF TwipPicture::ToPixels(const QRectF& twips) const {
     return {twips.topLeft() * Scale(), twips.size() * Scale()};
+}
+
+void TwipPicture::TellParts() {
+    if (QAccessible::isActive())
+        TellChangedParts(*this);
+}
+
+void TwipPicture::MoveFocusTo(int part) {
+    if (part < 0 || part >= static_cast<int>(Parts().parts.size()))
+        return;
+    m_focusPart = part;
+    update();
+    TellParts();
+    Q_EMIT FocusMoved();
 }
 
 void TwipPicture::mousePressEvent(QMouseEvent* event) {
@@ -36,4 +59,114 @@ void TwipPicture::mouseMoveEvent(QMouseEvent* event) {
 
 void TwipPicture::mouseReleaseEvent(QMouseEvent*) {
     Q_EMIT MouseUp();
+}
+
+void TwipPicture::leaveEvent(QEvent*) {
+    Q_EMIT MouseLeave();
+}
+
+void TwipPicture::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    TellParts();
+    Q_EMIT FocusMoved();
+}
+
+void TwipPicture::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    Q_EMIT FocusMoved();
+}
+
+void TwipPicture::keyPressEvent(QKeyEvent* event) {
+    bool handled = true;
+    Application::Guard([&] { handled = RunKey(event->key()); });
+    if (!handled)
+        QWidget::keyPressEvent(event);
+}
+
+bool TwipPicture::RunKey(int key) {
+    const PictureParts parts = Parts();
+    if (parts.parts.empty())
+        return false;
+    const PicturePart& part = parts.parts[static_cast<std::size_t>(m_focusPart)];
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // The same key without Shift.
+        Step(part, 1);
+        return true;
+    case Qt::Key_Minus:
+        Step(part, -1);
+        return true;
+    case Qt::Key_PageUp:
+        MoveFocusTo(m_focusPart + m_pageUp);
+        return true;
+    case Qt::Key_PageDown:
+        MoveFocusTo(m_focusPart - m_pageUp);
+        return true;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        GoToEnd(parts, key == Qt::Key_End);
+        return true;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        part.actions.front().run();
+        return true;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        parts.actions.front().run();
+        return true;
+    case Qt::Key_Menu:
+        ShowMenu(parts);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void TwipPicture::Step(const PicturePart& part, int step) {
+    if (!part.range)
+        MoveFocusTo(m_focusPart + step);
+    else if (const int value =
+                 std::clamp(part.range->value + step, part.range->lowest, part.range->highest);
+             value != part.range->value)
+        part.range->set(value);
+}
+
+void TwipPicture::GoToEnd(const PictureParts& parts, bool last) {
+    const auto& range = parts.parts[static_cast<std::size_t>(m_focusPart)].range;
+    if (range)
+        range->set(last ? range->highest : range->lowest);
+    else
+        MoveFocusTo(last ? static_cast<int>(parts.parts.size()) - 1 : 0);
+}
+
+void TwipPicture::ShowMenu(const PictureParts& parts) {
+    const PicturePart& part = parts.parts[static_cast<std::size_t>(m_focusPart)];
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("PartMenu"));
+    const auto add = [&menu](const std::vector<PartAction>& actions) {
+        for (const PartAction& action : actions)
+            menu.addAction(action.name)->setData(QVariant::fromValue(action.run));
+    };
+    menu.addSection(part.name);
+    add(part.actions);
+    menu.addSeparator();
+    add(parts.actions);
+    const QPoint below = ToPixels(part.place).toRect().center();
+    if (const QAction* chosen = menu.exec(mapToGlobal(below)))
+        chosen->data().value<std::function<void()>>()();
+}
+
+void TwipPicture::PaintFocus(QPainter& painter, const QRectF& part) const {
+    if (!hasFocus())
+        return;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    const QRectF ring = ToPixels(part).adjusted(2, 2, -2, -2);
+    for (const QPen& pen : {QPen(Colours::focusOnPictures, 4), QPen(Colours::focus, 2)}) {
+        painter.setPen(pen);
+        if (!part.isEmpty())
+            painter.drawRect(ring);
+    }
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }

@@ -1,5 +1,9 @@
 #include "workbench/fretboardlayout.h"
 
+int StringOfRow(int row, bool thinStringAtBottom) {
+    return thinStringAtBottom ? row + 1 : stringCount - row;
+}
+
 double FretboardLayout::StringY(int row) {
     return highestString + (stringCount - 1 - row) * rowHeight;
 }
@@ -22,6 +26,10 @@ QRectF FretboardLayout::BarreRect(Barre barre) {
     constexpr double bottom = 2160;
     const double top = (stringCount - (barre.lastRow + 1)) * rowHeight + 200;
     return {MarkCentre(0, barre.fret).x() - markSize / 2, top, markSize, bottom - top};
+}
+
+QRectF FretboardLayout::RowRect(int row) {
+    return {0, StringY(row) - rowHeight / 2, size.width(), rowHeight};
 }
 
 std::optional<int> FretboardLayout::FretAt(double x) {

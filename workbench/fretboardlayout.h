@@ -6,6 +6,9 @@
 #include <QRectF>
 #include <QSizeF>
 
+// The string that lies in a row: 1 the thin one to 6 the thick one.
+int StringOfRow(int row, bool thinStringAtBottom);
+
 struct FretboardLayout {
     static constexpr QSizeF size{7215, 2175};
     static constexpr int fretColumns = 16;
@@ -28,6 +31,9 @@ struct FretboardLayout {
 
     // The bar from just above its last row down past row 0.
     static QRectF BarreRect(Barre barre);
+
+    // The row of a string across the board.
+    static QRectF RowRect(int row);
 
     // Strictly between two fret lines: 1 to 16; empty on a line.
     static std::optional<int> FretAt(double x);

@@ -167,11 +167,21 @@ void frmMain::ShowState() {
     ShowInstruments();
     ShowNotes();
     ShowHighlights();
+    ShowHint();
+    panel->picStrings->TellParts();
+    panel->picKeyboard->TellParts();
     lblChord->setText(m_workbench.ChordName());
     lblChord->setToolTip(m_workbench.ChordHint());
     lblKeys->setText(m_workbench.MarkedNames());
     lblNoS->setText(m_workbench.Missing().text);
     SetColour(lblNoS, m_workbench.Missing().rootMissing ? Colours::mark : Colours::normalText);
+    lblNoS->setAutoFillBackground(m_workbench.Missing().rootMissing);
+    lblNoS->setToolTip(
+        m_workbench.Missing().rootMissing
+            ? Phrase{QStringLiteral("Ни одна струна не даёт основного тона аккорда."),
+                     QStringLiteral("No string sounds the root of the chord.")}
+                  .In(m_state.InterfaceTongue())
+            : QString());
     const QSignalBlocker silent(lstLadBarre);
     lstLadBarre->setCurrentIndex(m_workbench.BarreFretRow());
 }
@@ -184,6 +194,11 @@ void frmMain::ShowInstruments() {
     for (int row = 0; row < stringCount; ++row) {
         board.marks[static_cast<std::size_t>(row)] = m_workbench.Row(row).mark;
         board.muted[static_cast<std::size_t>(row)] = !m_workbench.Row(row).enabled;
+    }
+    if (m_pointed) {
+        board.pointed = m_pointed;
+        if (const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret))
+            board.pointedNote = NoteName(*note).toString();
     }
     panel->picStrings->Show(board);
     KeyboardView keyboard;

@@ -69,8 +69,10 @@ public:
     void picStrings_MouseDown(Qt::MouseButton button, QPointF place);
     void picStrings_MouseMove(QPointF place);
     void picStrings_MouseUp();
+    void picStrings_MouseLeave();
     void picKeyboard_MouseDown(Qt::MouseButton button, QPointF place);
-    void picKeyboard_MouseMove();
+    void picKeyboard_MouseMove(QPointF place);
+    void picKeyboard_MouseLeave();
     void Label3_Click(int index);
     void Label3_MouseMove(int index);
     void Label6_MouseDown(int index, Qt::MouseButton button);
@@ -139,6 +141,16 @@ private:
     void ShowInstruments();
     void ShowNotes();
     void ShowHighlights();
+    void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
+    void ShowHint();
+    QString Hint() const;
+
+    // What the pictures' parts are called and do.
+    PictureParts FretboardParts();
+    PictureParts KeyboardParts();
+    PicturePart StringPart(int row);
+    PicturePart BarrePart();
+    PicturePart KeyPart(int key);
 
     // The same for the commands of the fretboard, which ignore a run-time error.
     void DoQuietly(const std::function<void()>& command);
@@ -153,4 +165,6 @@ private:
     int LastStringLabel = 0;
     bool m_fretLabelLit = false; // Whether that label is blue now.
     bool m_stringLabelLit = false;
+    std::optional<BoardPlace> m_pointed; // Under the pointer...
+    std::optional<int> m_pointedKey;     // ...and on the piano.
 };

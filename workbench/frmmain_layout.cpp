@@ -132,7 +132,7 @@ void frmMain::LayOut() {
     notes->addWidget(Label2, 0, 0);
     notes->addWidget(lblKeys, 0, 1);
     notes->addWidget(Label7, 1, 0);
-    notes->addWidget(lblNoS, 1, 1);
+    notes->addWidget(lblNoS, 1, 1, Qt::AlignLeft); // As wide as its text: it may be filled.
     notes->setColumnStretch(1, 1);
     for (QLabel* label : {lblKeys, lblNoS}) {
         label->setTextFormat(Qt::PlainText);
@@ -141,6 +141,11 @@ void frmMain::LayOut() {
         bold.setBold(true);
         label->setFont(bold);
     }
+    QPalette warning = lblNoS->palette();
+    warning.setColor(QPalette::Window, Colours::behindMark);
+    lblNoS->setPalette(warning);
+    lblNoS->setContentsMargins(gap / 2, 0, gap / 2, 0);
+    Label7->setMinimumHeight(lblNoS->sizeHint().height());
 
     auto* see = Spaced(new QVBoxLayout, 0);
     see->addLayout(chord);
@@ -194,6 +199,7 @@ void frmMain::Connect() {
     Handle(lstBase, &ListBox::RowChosen, this, &frmMain::lstBase_Click);
     Handle(lstType, &ListBox::RowChosen, this, &frmMain::lstType_Click);
     Handle(lstType, &ListBox::RowDoubleClicked, this, &frmMain::lstType_DblClick);
+    Handle(lstType, &ListBox::activated, this, &frmMain::lstType_DblClick);
     Handle(lstLad, &ListBox::RowChosen, this, &frmMain::lstLad_Click);
     Handle(lstBarre, &DropDown::RowChosen, this, &frmMain::lstBarre_Click);
     Handle(lstLadBarre, &DropDown::RowChosen, this, &frmMain::lstLadBarre_Click);
@@ -218,8 +224,14 @@ void frmMain::Connect() {
     Handle(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
     Handle(panel->picStrings, &TwipPicture::MouseMove, this, &frmMain::picStrings_MouseMove);
     Handle(panel->picStrings, &TwipPicture::MouseUp, this, &frmMain::picStrings_MouseUp);
+    Handle(panel->picStrings, &TwipPicture::MouseLeave, this, &frmMain::picStrings_MouseLeave);
+    Handle(panel->picStrings, &TwipPicture::FocusMoved, this, &frmMain::ShowHint);
     Handle(panel->picKeyboard, &TwipPicture::MouseDown, this, &frmMain::picKeyboard_MouseDown);
     Handle(panel->picKeyboard, &TwipPicture::MouseMove, this, &frmMain::picKeyboard_MouseMove);
+    Handle(panel->picKeyboard, &TwipPicture::MouseLeave, this, &frmMain::picKeyboard_MouseLeave);
+    Handle(panel->picKeyboard, &TwipPicture::FocusMoved, this, &frmMain::ShowHint);
+    panel->picStrings->SetParts([this] { return FretboardParts(); });
+    panel->picKeyboard->SetParts([this] { return KeyboardParts(); });
     for (int index = 0; index < InstrumentPanel::fretLabels; ++index) {
         HotLabel* label = panel->Label3[static_cast<std::size_t>(index)];
         Handle(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });

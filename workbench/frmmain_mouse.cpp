@@ -25,12 +25,20 @@ void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
 
 void frmMain::picStrings_MouseMove(QPointF place) {
     Form_MouseMove();
+    const auto row = FretboardLayout::RowAt(place.y());
+    const auto fret = FretboardLayout::FretAt(place.x());
+    const bool free = !BarreDragging && !m_workbench.GrabsBarre(place.x());
+    PointAt(free && row && fret ? std::optional(BoardPlace{*row, *fret}) : std::nullopt, {});
     if (BarreDragging)
         DoQuietly([&] { m_workbench.DragBarre(place.x()); });
 }
 
 void frmMain::picStrings_MouseUp() {
     BarreDragging = false;
+}
+
+void frmMain::picStrings_MouseLeave() {
+    PointAt({}, {});
 }
 
 void frmMain::picKeyboard_MouseDown(Qt::MouseButton button, QPointF place) {
@@ -40,9 +48,23 @@ void frmMain::picKeyboard_MouseDown(Qt::MouseButton button, QPointF place) {
         Do([&] { m_workbench.ToggleKey(*key); });
 }
 
-void frmMain::picKeyboard_MouseMove() {
+void frmMain::picKeyboard_MouseMove(QPointF place) {
     m_fretLabelLit = false;
     ShowHighlights();
+    PointAt({}, KeyboardLayout::KeyAt(place));
+}
+
+void frmMain::picKeyboard_MouseLeave() {
+    PointAt({}, {});
+}
+
+void frmMain::PointAt(std::optional<BoardPlace> place, std::optional<int> key) {
+    if (m_pointed == place && m_pointedKey == key)
+        return;
+    m_pointed = place;
+    m_pointedKey = key;
+    ShowInstruments();
+    ShowHint();
 }
 
 void frmMain::Label3_Click(int index) {

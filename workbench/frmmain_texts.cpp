@@ -7,45 +7,45 @@ namespace {
 
 const QString mainSection = QStringLiteral("Main");
 
-struct Hint {
+struct ToolTip {
     const char16_t* control;
     const char16_t* russian;
     const char16_t* english;
 };
 
 // Tool tips; they are the accessible names of controls without a caption, too.
-constexpr std::array hints{
-    Hint{u"lstBase", u"Основной тон", u"Root note"},
-    Hint{u"lstType", u"Тип аккорда", u"Chord type"},
-    Hint{u"lstLad", u"Лад (гамма)", u"Scale"},
-    Hint{u"txtFind", u"Тип аккорда, который нужно найти", u"Chord type to look for"},
-    Hint{u"cmdFind", u"Найти тип аккорда (F3)", u"Find the chord type (F3)"},
-    Hint{u"cmdFindChord", u"Назвать аккорд по нажатым клавишам (Shift+F3)",
-         u"Name the chord of the marked keys (Shift+F3)"},
-    Hint{u"picStrings", u"Гриф: щелчок ставит палец, правая кнопка снимает всё",
-         u"Fretboard: click to set a finger, right click to clear"},
-    Hint{u"picKeyboard", u"Клавиатура: щелчок отмечает ноту, правая кнопка снимает все отметки",
-         u"Keyboard: click to mark a note, right click to clear all marks"},
-    Hint{u"txtStr", u"Номер ряда, снизу вверх: от 1 до 6",
-         u"Row of the string, from the bottom: 1 to 6"},
-    Hint{u"VScroll3", u"Выбор струны", u"Choose the string"},
-    Hint{u"cmdFindNew", u"Следующий лад с нотой аккорда на этой струне (F4)",
-         u"Next fret with a chord note on this string (F4)"},
-    Hint{u"cmdMakeBarre", u"Поставить или снять барре (F2)", u"Set or lift the barre (F2)"},
-    Hint{u"lstBarre", u"Сколько струн прижимает барре", u"How many strings the barre covers"},
-    Hint{u"lstLadBarre", u"Лад барре (Shift+стрелки)", u"Fret of the barre (Shift+arrows)"},
-    Hint{u"Command1", u"Разложить отмеченные ноты по струнам (F8)",
-         u"Lay the marked notes onto the strings (F8)"},
-    Hint{u"Command2", u"Перенести ноты струн на клавиатуру (F9)",
-         u"Mark the strings' notes on the keyboard (F9)"},
-    Hint{u"GoldButton1", u"Сыграть отмеченные клавиши (F5)", u"Play the marked keys (F5)"},
-    Hint{u"GoldButton2", u"Сыграть струны (F6)", u"Play the strings (F6)"},
-    Hint{u"GoldButton3", u"Остановить проигрывание (F7)", u"Stop playing (F7)"},
-    Hint{u"lstWhat", u"Темп", u"Pace"},
-    Hint{u"lstTemp", u"Повторение", u"Repetition"},
-    Hint{u"cmdNewDiag", u"Диаграммы аккордов", u"Chord diagrams"},
-    Hint{u"cmdSettings", u"Настройки (F10)", u"Settings (F10)"},
-    Hint{u"cmdHelp", u"Помощь (F1)", u"Help (F1)"},
+constexpr std::array toolTips{
+    ToolTip{u"lstBase", u"Основной тон", u"Root note"},
+    ToolTip{u"lstType", u"Тип аккорда", u"Chord type"},
+    ToolTip{u"lstLad", u"Лад (гамма)", u"Scale"},
+    ToolTip{u"txtFind", u"Тип аккорда, который нужно найти", u"Chord type to look for"},
+    ToolTip{u"cmdFind", u"Найти тип аккорда (F3)", u"Find the chord type (F3)"},
+    ToolTip{u"cmdFindChord", u"Назвать аккорд по нажатым клавишам (Shift+F3)",
+            u"Name the chord of the marked keys (Shift+F3)"},
+    ToolTip{u"picStrings", u"Гриф: щелчок ставит палец, правая кнопка снимает всё",
+            u"Fretboard: click to set a finger, right click to clear"},
+    ToolTip{u"picKeyboard", u"Клавиатура: щелчок отмечает ноту, правая кнопка снимает все отметки",
+            u"Keyboard: click to mark a note, right click to clear all marks"},
+    ToolTip{u"txtStr", u"Номер ряда, снизу вверх: от 1 до 6",
+            u"Row of the string, from the bottom: 1 to 6"},
+    ToolTip{u"VScroll3", u"Выбор струны", u"Choose the string"},
+    ToolTip{u"cmdFindNew", u"Следующий лад с нотой аккорда на этой струне (F4)",
+            u"Next fret with a chord note on this string (F4)"},
+    ToolTip{u"cmdMakeBarre", u"Поставить или снять барре (F2)", u"Set or lift the barre (F2)"},
+    ToolTip{u"lstBarre", u"Сколько струн прижимает барре", u"How many strings the barre covers"},
+    ToolTip{u"lstLadBarre", u"Лад барре (Shift+стрелки)", u"Fret of the barre (Shift+arrows)"},
+    ToolTip{u"Command1", u"Разложить отмеченные ноты по струнам (F8)",
+            u"Lay the marked notes onto the strings (F8)"},
+    ToolTip{u"Command2", u"Перенести ноты струн на клавиатуру (F9)",
+            u"Mark the strings' notes on the keyboard (F9)"},
+    ToolTip{u"GoldButton1", u"Сыграть отмеченные клавиши (F5)", u"Play the marked keys (F5)"},
+    ToolTip{u"GoldButton2", u"Сыграть струны (F6)", u"Play the strings (F6)"},
+    ToolTip{u"GoldButton3", u"Остановить проигрывание (F7)", u"Stop playing (F7)"},
+    ToolTip{u"lstWhat", u"Темп", u"Pace"},
+    ToolTip{u"lstTemp", u"Повторение", u"Repetition"},
+    ToolTip{u"cmdNewDiag", u"Диаграммы аккордов", u"Chord diagrams"},
+    ToolTip{u"cmdSettings", u"Настройки (F10)", u"Settings (F10)"},
+    ToolTip{u"cmdHelp", u"Помощь (F1)", u"Help (F1)"},
 };
 
 QStringList Numbered(const QString& word) {
@@ -113,15 +113,31 @@ void frmMain::ApplyLanguage(const LanguageTexts& texts) {
 
 void frmMain::ApplyTongue() {
     const Tongue tongue = m_state.InterfaceTongue();
-    for (const Hint& hint : hints) {
-        auto* control = findChild<QWidget*>(QString::fromUtf16(hint.control));
-        const QString text = In(tongue, hint.russian, hint.english);
+    for (const ToolTip& tip : toolTips) {
+        auto* control = findChild<QWidget*>(QString::fromUtf16(tip.control));
+        const QString text = In(tongue, tip.russian, tip.english);
         control->setToolTip(text);
         control->setAccessibleName(text);
     }
     for (GoldButton* captioned : {cmdFindNew, cmdMakeBarre, GoldButton3}) {
         captioned->setAccessibleDescription(captioned->accessibleName());
         captioned->setAccessibleName(captioned->Caption());
+    }
+    panel->picStrings->setAccessibleDescription(
+        In(tongue, u"PgUp и PgDn: струна или барре; + и -: лад; пробел: следующая нота аккорда",
+           u"Page Up and Page Down: string or barre; + and -: fret; Space: next chord note"));
+    panel->picKeyboard->setAccessibleDescription(
+        In(tongue, u"+ и -: клавиша; PgUp и PgDn: октава; пробел: отметить",
+           u"+ and -: key; Page Up and Page Down: octave; Space: mark"));
+    for (int fret = 1; fret <= InstrumentPanel::fretLabels; ++fret)
+        panel->Label3[static_cast<std::size_t>(fret - 1)]->setToolTip(
+            In(tongue, u"Барре на ладу %1", u"Barre at fret %1").arg(fret));
+    for (HotLabel* handle : panel->Label6) {
+        handle->setToolTip(In(tongue,
+                              u"Следующая нота аккорда на этой струне; правая кнопка: заглушить "
+                              u"её или вернуть звук",
+                              u"Next chord note on this string; right click: mute or unmute it"));
+        handle->setAccessibleName(handle->toolTip());
     }
     Frame3->setAccessibleName(In(tongue, u"Барре", u"Barre"));
     Frame4->setAccessibleName(In(tongue, u"Звук", u"Sound"));

@@ -17,6 +17,8 @@ QRectF FretLabel(int fret) {
     return {{(fret - 1) * FretboardLayout::fretWidth, 2160}, labelSize};
 }
 
+constexpr QRectF hint{0, 2415, 7215, 225};
+
 QRectF NoteLabel(int row) {
     return {{7200, 120 + (stringCount - 1 - row) * FretboardLayout::rowHeight}, labelSize};
 }
@@ -39,6 +41,10 @@ InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
     for (int row = 0; row < stringCount; ++row)
         Label6[static_cast<std::size_t>(row)] =
             new HotLabel(QStringLiteral("Label6(%1)").arg(row), this);
+    lblHint = new QLabel(this);
+    lblHint->setObjectName(QStringLiteral("lblHint"));
+    lblHint->setTextFormat(Qt::PlainText);
+    lblHint->setAlignment(Qt::AlignCenter);
     // Raised last: the picture lies over the first 15 twips of the labels around it.
     picStrings = new PicStrings(this);
     picKeyboard = new PicKeyboard(this);
@@ -77,6 +83,10 @@ void InstrumentPanel::Place() {
     };
     for (int fret = 1; fret <= fretLabels; ++fret)
         place(Label3[static_cast<std::size_t>(fret - 1)], FretLabel(fret));
+    QFont hintFont = font;
+    hintFont.setPixelSize(std::max(9, static_cast<int>(hint.height() * 0.78 * scale)));
+    place(lblHint, hint);
+    lblHint->setFont(hintFont);
     QFont noteFont = font;
     noteFont.setBold(true);
     for (int row = 0; row < stringCount; ++row) {

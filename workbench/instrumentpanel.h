@@ -16,6 +16,7 @@ public:
 
     PicStrings* picStrings;
     PicKeyboard* picKeyboard;
+    QLabel* lblHint; // Under the fret numbers: what the pointer or the keyboard is at.
     std::array<HotLabel*, fretLabels> Label3;  // Fret numbers, fret 1 first.
     std::array<QLabel*, stringCount> Label4;   // Sounding notes, the bottom row first.
     std::array<HotLabel*, stringCount> Label6; // Handles over them.

@@ -27,11 +27,6 @@ constexpr double neckTop = 75;
 constexpr double neckBottom = 2145;
 constexpr double inlaySize = 150;
 
-// 1 the thin string to 6 the thick one.
-int StringOfRow(int row, bool thinStringAtBottom) {
-    return thinStringAtBottom ? row + 1 : stringCount - row;
-}
-
 double Gauge(int string) {
     constexpr std::array<double, stringCount> gauges{14, 18, 24, 32, 42, 54};
     return gauges[static_cast<std::size_t>(string - 1)];
@@ -134,6 +129,19 @@ void PaintFinger(QPainter& painter, const QRectF& disc) {
     painter.drawEllipse(disc);
 }
 
+// Where the next click would set a finger, and the note that it would give.
+void PaintPointed(QPainter& painter, const QRectF& disc, const QString& note) {
+    painter.setPen(QPen(Colours::focus, 20));
+    painter.setBrush(Colours::field);
+    painter.drawEllipse(disc);
+    QFont font = painter.font();
+    font.setPixelSize(note.size() > 1 ? 135 : 165);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Colours::text);
+    painter.drawText(disc, Qt::AlignCenter, note);
+}
+
 void PaintBarre(QPainter& painter, const QRectF& bar) {
     painter.fillRect(bar.translated(22, 0), shadow);
     painter.fillRect(bar.adjusted(-12, -12, 12, 12), markEdge);
@@ -169,4 +177,9 @@ void PaintMarks(QPainter& painter, const FretboardView& view) {
     for (int row = 0; row < stringCount; ++row)
         if (const auto fret = view.marks[static_cast<std::size_t>(row)])
             PaintFinger(painter, FretboardLayout::MarkRect(row, *fret));
+    if (!view.pointed || view.pointedNote.isEmpty())
+        return;
+    const auto [row, fret] = *view.pointed;
+    if (view.marks[static_cast<std::size_t>(row)] != fret)
+        PaintPointed(painter, FretboardLayout::MarkRect(row, fret), view.pointedNote);
 }

@@ -1,15 +1,12 @@
 #include "workbench/pickeyboard.h"
 
-#include "controls/colours.h"
 #include "workbench/keyboardlayout.h"
 #include "workbench/keyboardpainting.h"
 
 #include <QPainter>
 
 PicKeyboard::PicKeyboard(QWidget* parent)
-    : TwipPicture(QStringLiteral("picKeyboard"), KeyboardLayout::size, parent) {
-    setFocusPolicy(Qt::StrongFocus);
-}
+    : TwipPicture(QStringLiteral("picKeyboard"), KeyboardLayout::size, notesPerOctave, parent) {}
 
 void PicKeyboard::Show(const KeyboardView& view) {
     if (view == m_view)
@@ -31,8 +28,5 @@ void PicKeyboard::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_picture);
-    if (hasFocus()) {
-        painter.setPen(QPen(Colours::focus, 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
+    PaintFocus(painter, KeyboardLayout::KeyRect(FocusPart()));
 }

@@ -1,14 +1,11 @@
 #include "workbench/picstrings.h"
 
-#include "controls/colours.h"
 #include "workbench/neckpainting.h"
 
 #include <QPainter>
 
 PicStrings::PicStrings(QWidget* parent)
-    : TwipPicture(QStringLiteral("picStrings"), FretboardLayout::size, parent) {
-    setFocusPolicy(Qt::StrongFocus);
-}
+    : TwipPicture(QStringLiteral("picStrings"), FretboardLayout::size, -1, parent) {}
 
 void PicStrings::Show(const FretboardView& view) {
     if (view == m_view)
@@ -31,11 +28,15 @@ void PicStrings::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_neck);
-    if (hasFocus()) {
-        painter.setPen(QPen(Colours::focus, 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(Scale(), Scale());
     PaintMarks(painter, m_view);
+    painter.restore();
+    if (FocusPart() < stringCount)
+        PaintFocus(painter, FretboardLayout::RowRect(stringCount - 1 - FocusPart()));
+    else if (m_view.barre)
+        PaintFocus(painter, FretboardLayout::BarreRect(*m_view.barre));
+    else
+        PaintFocus(painter, {});
 }

@@ -157,12 +157,18 @@ void Workbench::PressString(std::optional<int> row, std::optional<int> fret) {
     if (!row)
         return;
     StringRow& string = At(*row);
-    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(*row)]);
-    if (!open)
-        return;
     const int stopped = fret.value_or(0);
-    string.note = (*open + stopped) % notesPerOctave;
+    const auto note = NoteAt(*row, stopped);
+    if (!note)
+        return;
+    string.note = note;
     string.mark = stopped;
+}
+
+std::optional<PitchClass> Workbench::NoteAt(int row, int fret) const {
+    CheckRow(row);
+    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(row)]);
+    return open ? std::optional((*open + fret) % notesPerOctave) : std::nullopt;
 }
 
 void Workbench::PressFretNumber(int fret) {

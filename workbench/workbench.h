@@ -70,6 +70,9 @@ public:
     RowSound SoundOfRow(int row) const;
     std::optional<int> ShownBarreFret() const;
 
+    // The note of a row stopped at a fret; empty where the open note is no note.
+    std::optional<PitchClass> NoteAt(int row, int fret) const;
+
     // What the window shows.
     int RootRow() const { return m_rootRow; }
     int TypeRow() const { return m_typeRow; }

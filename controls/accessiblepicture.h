@@ -1,0 +1,11 @@
+// What a screen reader finds in a picture: each part as a child, with a name, a place, a state
+// and what can be done with it.
+#pragma once
+
+class TwipPicture;
+
+// To be called before a screen reader first looks at a picture.
+void InstallAccessiblePictures();
+
+// Sends the changes of the picture's parts since the last call.
+void TellChangedParts(TwipPicture& picture);
