@@ -4,6 +4,7 @@
 #include "controls/theme.h"
 #include "core/runtimeerror.h"
 
+#include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -32,6 +33,14 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     ApplyTheme(*this);
     InstallAccessiblePictures();
     setQuitOnLastWindowClosed(false);
+}
+
+void Application::SetTongue(Tongue tongue) {
+    m_tongue = tongue;
+    removeTranslator(&m_toolkitTexts);
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (tongue == Tongue::Russian && m_toolkitTexts.load(QStringLiteral("qtbase_ru"), folder))
+        installTranslator(&m_toolkitTexts);
 }
 
 void Application::Report(const RunTimeError& error) {

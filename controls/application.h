@@ -4,6 +4,7 @@
 #include "core/phrase.h"
 
 #include <QApplication>
+#include <QTranslator>
 
 #include <functional>
 
@@ -13,8 +14,9 @@ class Application : public QApplication {
 public:
     Application(int& argc, char** argv);
 
-    // The language of the report from now on.
-    void SetTongue(Tongue tongue) { m_tongue = tongue; }
+    // The language of the report from now on, and of the toolkit's own texts: the buttons of
+    // message boxes, file dialogs.
+    void SetTongue(Tongue tongue);
 
     // Shows the report; the user chooses to go on or to end the program.
     void Report(const RunTimeError& error);
@@ -33,5 +35,6 @@ public:
 
 private:
     Tongue m_tongue = Tongue::Russian;
+    QTranslator m_toolkitTexts;
     std::function<void()> m_end;
 };

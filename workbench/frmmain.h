@@ -43,7 +43,8 @@ public:
     // Runs a command and shows what it did, also when a run-time error ends it.
     void Do(const std::function<void()>& command);
 
-    // At the largest scale, in steps of a half, that leaves a fifth of the screen free.
+    // At the largest scale, in steps of a half, that leaves a fifth of the screen free; on a
+    // small screen as large as there is room.
     void OpenAtBestSize();
 
     // Asked when the window is about to close; false keeps it open.

@@ -251,13 +251,14 @@ void frmMain::Connect() {
 void frmMain::OpenAtBestSize() {
     constexpr double share = 0.8; // Of the screen.
     constexpr double step = 0.5;
+    constexpr double largest = 3; // Beyond, the lists beside the pictures look lost.
     const QSize room = screen()->availableGeometry().size() * share;
     const QSize around = layout()->totalSizeHint() - panel->sizeHint();
     const auto windowAt = [&](double scale) {
         return (around + InstrumentPanel::SizeAt(scale)).expandedTo(layout()->totalMinimumSize());
     };
     double scale = 1;
-    while (QRect({}, room).contains(QRect({}, windowAt(scale + step))))
+    while (scale < largest && QRect({}, room).contains(QRect({}, windowAt(scale + step))))
         scale += step;
-    resize(windowAt(scale));
+    resize(windowAt(scale).boundedTo(screen()->availableGeometry().size()));
 }

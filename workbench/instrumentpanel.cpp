@@ -7,6 +7,7 @@
 namespace {
 
 constexpr double twipsPerPixel = 15; // At 96 dpi.
+constexpr double smallestScale = 0.85;
 
 // The window's places, measured from the fretboard's top left corner.
 constexpr QSizeF panelSize{7695, 4215};
@@ -56,7 +57,7 @@ QSize InstrumentPanel::SizeAt(double scale) {
 }
 
 QSize InstrumentPanel::minimumSizeHint() const {
-    return SizeAt(1);
+    return SizeAt(smallestScale);
 }
 
 QSize InstrumentPanel::sizeHint() const {
