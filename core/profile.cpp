@@ -1,9 +1,11 @@
 #include "core/profile.h"
 
 #include "core/codepage.h"
+#include "core/datafile.h"
 
 #include <QFile>
-#include <QSaveFile>
+
+#include <tuple>
 
 namespace {
 
@@ -57,7 +59,8 @@ ProfileFile ProfileFile::Read(const QString& path) {
     QFile file(path);
     const bool opened = file.open(QIODevice::ReadOnly);
     ProfileFile profile = FromBytes(opened ? file.readAll() : QByteArray());
-    profile.m_read = opened ? file.error() == QFileDevice::NoError : !file.exists();
+    if (opened ? file.error() != QFileDevice::NoError : file.exists())
+        profile.m_unreadable = UnreadableFile(path, file.errorString());
     return profile;
 }
 
@@ -104,12 +107,8 @@ QByteArray ProfileFile::ToBytes() const {
     return ToAnsi(m_lines.join(QString()));
 }
 
-bool ProfileFile::Write(const QString& path) const {
-    QSaveFile file(path);
-    if (!m_read || !file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(ToBytes());
-    return file.commit();
+std::optional<Phrase> ProfileFile::Write(const QString& path) const {
+    return m_unreadable ? m_unreadable : ReplaceFile(path, ToBytes());
 }
 
 qsizetype ProfileFile::FindSection(const QString& section) const {
@@ -150,5 +149,5 @@ void WriteIni(const QString& file, const QString& section, const QString& key,
               const QString& value) {
     ProfileFile profile = ProfileFile::Read(file);
     profile.SetValue(section, key, value);
-    profile.Write(file);
+    std::ignore = profile.Write(file);
 }

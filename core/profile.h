@@ -1,9 +1,10 @@
 // Profile files: sections in square brackets, a key, "=" and a value on a line.
 #pragma once
 
+#include "core/phrase.h"
+
 #include <QByteArray>
 #include <QList>
-#include <QString>
 
 #include <optional>
 
@@ -26,17 +27,17 @@ public:
 
     QByteArray ToBytes() const;
 
-    // Replaces the file whole. On failure the old file stays and the result is false;
-    // what was never read is not replaced either.
-    bool Write(const QString& path) const;
+    // Replaces the file whole. On failure the old file stays and the result says why; what
+    // was never read is not replaced either.
+    [[nodiscard]] std::optional<Phrase> Write(const QString& path) const;
 
 private:
     qsizetype FindSection(const QString& section) const;
     qsizetype FindKey(qsizetype sectionLine, const QString& key) const;
     qsizetype EndOfSection(qsizetype sectionLine) const; // Behind its last line with text.
 
-    QList<QString> m_lines; // Each with its own line end.
-    bool m_read = true;     // False for a file that is there and cannot be read.
+    QList<QString> m_lines;             // Each with its own line end.
+    std::optional<Phrase> m_unreadable; // Why a file that is there could not be read.
 };
 
 // The value of a key of the file, or missing where file, section or key is.

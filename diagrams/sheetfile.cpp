@@ -5,7 +5,6 @@
 #include "core/runtimeerror.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 qint64 SheetSize(const QString& path) {
     const QFileInfo file(path);
@@ -32,13 +31,6 @@ void WriteSheet(const QString& path, const QString& text) {
                  .arg(outside)});
     QString lines = text + u'\n';
     lines.replace(u'\n', QStringLiteral("\r\n"));
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(ToAnsi(lines));
-        if (file.commit())
-            return;
-    }
-    throw RunTimeError(
-        {QStringLiteral("Не удаётся записать файл «%1»: %2").arg(path, file.errorString()),
-         QStringLiteral("The file “%1” cannot be written: %2").arg(path, file.errorString())});
+    if (const auto failure = ReplaceFile(path, ToAnsi(lines)))
+        throw RunTimeError(*failure);
 }

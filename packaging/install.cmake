@@ -1,14 +1,6 @@
-# Run by cmake --install after the program folder: the entry in the desktop's menu, its icons
-# and its description, and the list of all that was installed, which packaging/uninstall reads.
-
-get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
-set(share "${prefix}/share")
-if(prefix STREQUAL "$ENV{HOME}/.local/opt") # The user's own menu is elsewhere.
-    set(share "$ENV{HOME}/.local/share")
-    if(NOT "$ENV{XDG_DATA_HOME}" STREQUAL "")
-        set(share "$ENV{XDG_DATA_HOME}")
-    endif()
-endif()
+# Run by cmake --install after the program folder and folders.cmake: the entry in the desktop's
+# menu, its icons and its description, and the list of all that was installed, which
+# packaging/uninstall reads.
 
 # A path in a desktop entry: Exec quotes it as a word first, then both are written as a text.
 set(exec "${prefix}/tonvik/tonvik")
@@ -30,13 +22,13 @@ endforeach()
 file(INSTALL "${CMAKE_CURRENT_LIST_DIR}/tonvik.metainfo.xml" DESTINATION "${share}/metainfo"
     RENAME org.tonvik.Tonvik.metainfo.xml)
 
-# What an earlier version put there is still this program's.
+# One name a line, a folder's with a slash at its end. What lies under the prefix is named from
+# there, so that it can be moved. CMake's lists come apart at a bracket in a name; lines do not.
+string(REPLACE ";" "\n" installed "\n${CMAKE_INSTALL_MANIFEST_FILES}\n")
+string(REPLACE "\n${prefix}/" "\n" installed "${installed}")
+string(SUBSTRING "${installed}" 1 -1 installed)
 set(list "$ENV{DESTDIR}${prefix}/tonvik.installed")
-set(installed ${CMAKE_INSTALL_MANIFEST_FILES} "${prefix}/tonvik.installed")
-if(EXISTS "${list}")
-    file(STRINGS "${list}" earlier ENCODING UTF-8)
-    list(APPEND installed ${earlier})
-endif()
-list(REMOVE_DUPLICATES installed)
-list(JOIN installed "\n" lines)
-file(WRITE "${list}" "${lines}\n")
+# What an earlier version put there is still this program's.
+file(APPEND "${list}" "${installed}${madeFolders}tonvik.installed\n")
+execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C sort -u -o "${list}" "${list}"
+    COMMAND_ERROR_IS_FATAL ANY)

@@ -8,6 +8,7 @@
 #include "core/runtimeerror.h"
 #include "core/tunings.h"
 #include "settings/soundnumbers.h"
+#include "settings/unsavedsettings.h"
 #include "workbench/playback.h"
 
 #include <QScopeGuard>
@@ -76,7 +77,7 @@ void frmSettings::LoadDialogSettings() {
     }
 }
 
-void frmSettings::SaveDialogSettings() {
+std::optional<Phrase> frmSettings::SaveDialogSettings() {
     const QString language = ChosenLanguage();
     ProfileFile settings = ProfileFile::Read(m_state.SettingsFile());
     const StringLayout layout = CheckedLayout();
@@ -87,7 +88,7 @@ void frmSettings::SaveDialogSettings() {
     m_state.ThinStringAtBottom = ThinAtBottom(layout);
     WriteOpenStrings(settings, Strings());
     settings.SetValue(settingsSection, QStringLiteral("Language"), language);
-    settings.Write(m_state.SettingsFile());
+    return settings.Write(m_state.SettingsFile());
 }
 
 QString frmSettings::ChosenLanguage() const {
@@ -175,10 +176,13 @@ void frmSettings::Image1_Click(int index) {
 }
 
 void frmSettings::cmdOK_Click() {
-    if (Check1->isChecked())
-        SaveDialogSettings();
+    auto unsaved = Check1->isChecked() ? SaveDialogSettings() : std::nullopt;
     m_handOver(Strings(), ThinAtBottom(CheckedLayout()));
     accept();
+    // The dialog is hidden and still holds what was chosen.
+    while (unsaved &&
+           TrySavingAgain(*unsaved, windowTitle(), m_state.InterfaceTongue(), parentWidget()))
+        unsaved = SaveDialogSettings();
 }
 
 void frmSettings::cmdCancel_Click() {

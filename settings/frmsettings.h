@@ -17,6 +17,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class GoldButton;
 
@@ -36,9 +37,9 @@ public:
 
     void LoadDialogSettings();
 
-    // Writes the settings file whole, or leaves the old one. A run-time error when the chosen
-    // language file is no longer there; nothing is written then.
-    void SaveDialogSettings();
+    // Writes the settings file whole, or leaves the old one and gives the reason. A run-time
+    // error when the chosen language file is no longer there; nothing is written then.
+    std::optional<Phrase> SaveDialogSettings();
 
     void Option1_Click();
     void Option2_Click();

@@ -231,10 +231,9 @@ void frmMain::ShowHighlights() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (m_mayEnd && !m_mayEnd()) {
-        event->ignore();
+    event->ignore(); // Also where saving the sheet fails with a run-time error.
+    if (m_mayEnd && !m_mayEnd())
         return;
-    }
     m_playback.Abandon();
     event->accept();
     QApplication::quit();

@@ -64,7 +64,7 @@ private Q_SLOTS:
         QVERIFY(folder.MakeFolder(name));
         QCOMPARE(ReadIni(folder.Path(name), section, key, absent), absent);
         WriteIni(folder.Path(name), section, key, QStringLiteral("1"));
-        QVERIFY(!ProfileFile().Write(folder.Path(name)));
+        QVERIFY(ProfileFile().Write(folder.Path(name)));
         QVERIFY(QFileInfo(folder.Path(name)).isDir());
         QCOMPARE(folder.Names(), QStringList{name});
     }
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QVERIFY(folder.MakeFolder(name));
         ProfileFile file = ProfileFile::Read(folder.Path(name));
         file.SetValue(section, key, QStringLiteral("1"));
-        QVERIFY(!file.Write(folder.Path(QStringLiteral("other.ini"))));
+        QVERIFY(file.Write(folder.Path(QStringLiteral("other.ini"))));
         QCOMPARE(folder.Names(), QStringList{name});
     }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         const TestFolder folder;
         const QString path = folder.Path(QStringLiteral("none/tonvik.ini"));
         WriteIni(path, section, key, QStringLiteral("1"));
-        QVERIFY(!ProfileFile().Write(path));
+        QVERIFY(ProfileFile().Write(path));
         QCOMPARE(folder.Names(), QStringList());
     }
 };

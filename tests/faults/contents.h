@@ -1,0 +1,36 @@
+// Two contents that a file is given in turn, through the routines that the program saves with.
+#pragma once
+
+#include "core/profile.h"
+#include "core/settings.h"
+#include "diagrams/sheetfile.h"
+
+enum class Content { Old, New };
+
+// The settings as OK in the settings dialog writes them. What else the file holds is kept.
+inline void WriteSettings(const QString& path, Content content) {
+    OpenStrings strings = standardStrings;
+    if (content == Content::New)
+        strings.notes.fill(QStringLiteral("C#"));
+    ProfileFile settings = ProfileFile::Read(path);
+    settings.SetValue(QStringLiteral("Settings"), QStringLiteral("Language"),
+                      content == Content::New ? QStringLiteral("a rather long name.lng")
+                                              : QStringLiteral("Default"));
+    WriteOpenStrings(settings, strings);
+    if (settings.Write(path))
+        qFatal("cannot write the settings");
+}
+
+// A sheet as the diagram window saves it.
+inline void WriteDiagrams(const QString& path, Content content) {
+    const QString line = content == Content::New ? QStringLiteral("Am - Б5/000220\n")
+                                                 : QStringLiteral("C - 032010\n");
+    WriteSheet(path, line.repeated(2000));
+}
+
+inline void WriteContent(const QString& path, Content content) {
+    if (path.endsWith(QStringLiteral(".ini")))
+        WriteSettings(path, content);
+    else
+        WriteDiagrams(path, content);
+}
