@@ -53,13 +53,23 @@ void ListBox::SelectRow(int row) {
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !pressed.isValid())
         return;
     const int before = Row();
     QListView::mousePressEvent(event);
-    const QModelIndex pressed = indexAt(event->position().toPoint());
-    if (pressed.isValid() && pressed.row() == before)
+    if (pressed.row() == before)
         Q_EMIT RowChosen(before);
+}
+
+void ListBox::mouseMoveEvent(QMouseEvent* event) {
+    // Dragging would select rows without their commands.
+    if (event->buttons() == Qt::NoButton)
+        QListView::mouseMoveEvent(event);
+}
+
+void ListBox::mouseReleaseEvent(QMouseEvent*) {
+    // So would letting go over another row than the pressed one.
 }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -82,10 +92,12 @@ void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelect
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
                                                               const QEvent* event) const {
-    // Ctrl+click would take the selection away and leave the row current.
+    // With Ctrl a click would take the selection away and leave the row current, and a key
+    // would make another row current and leave the selection.
     const auto command = QListView::selectionCommand(index, event);
+    const bool byKey = event != nullptr && event->type() == QEvent::KeyPress;
     return command.testFlag(QItemSelectionModel::Toggle) ||
-                   command.testFlag(QItemSelectionModel::Deselect)
+                   command.testFlag(QItemSelectionModel::Deselect) || (byKey && index.isValid())
                ? QItemSelectionModel::ClearAndSelect
                : command;
 }
