@@ -109,8 +109,10 @@ void frmDiags::cmdCut_Click() {
 }
 
 void frmDiags::cmdPast_Click() {
-    // A picture on the clipboard is no text: it takes nothing away.
-    if (QApplication::clipboard()->mimeData()->hasText())
+    // A picture on the clipboard is no text, and there may be nothing at all: neither takes
+    // the selected text away.
+    const QMimeData* clipboard = QApplication::clipboard()->mimeData();
+    if (clipboard != nullptr && clipboard->hasText())
         Insert(QApplication::clipboard()->text());
     txtMain->setFocus();
 }

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void DashesBeyondReason();
     void CutCopyPaste();
     void PastingAPicture();
+    void PastingNothing();
     void Undoing();
     void Filters();
     void OpeningAFile_data();
@@ -288,6 +289,14 @@ void FrmDiagsTest::CutCopyPaste() {
 
 void FrmDiagsTest::PastingAPicture() {
     QApplication::clipboard()->setImage(QImage(4, 4, QImage::Format_RGB32));
+    m_sheet->txtMain->setPlainText(QStringLiteral("kept"));
+    m_sheet->txtMain->selectAll();
+    Click(m_sheet->cmdPast);
+    QCOMPARE(Text(), QStringLiteral("kept"));
+}
+
+void FrmDiagsTest::PastingNothing() {
+    QApplication::clipboard()->setMimeData(nullptr);
     m_sheet->txtMain->setPlainText(QStringLiteral("kept"));
     m_sheet->txtMain->selectAll();
     Click(m_sheet->cmdPast);
