@@ -195,7 +195,9 @@ void frmMain::ShowInstruments() {
         board.marks[static_cast<std::size_t>(row)] = m_workbench.Row(row).mark;
         board.muted[static_cast<std::size_t>(row)] = !m_workbench.Row(row).enabled;
     }
-    if (m_pointed) {
+    // A press there would take hold of the barre, should it have come there meanwhile.
+    if (m_pointed &&
+        !m_workbench.GrabsBarre(FretboardLayout::MarkCentre(m_pointed->row, m_pointed->fret).x())) {
         board.pointed = m_pointed;
         if (const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret))
             board.pointedNote = NoteName(*note).toString();

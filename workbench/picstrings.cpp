@@ -36,7 +36,8 @@ void PicStrings::paintEvent(QPaintEvent*) {
     if (FocusPart() < stringCount)
         PaintFocus(painter, FretboardLayout::RowRect(stringCount - 1 - FocusPart()));
     else if (m_view.barre)
-        PaintFocus(painter, FretboardLayout::BarreRect(*m_view.barre));
+        // Around the bar, whose own area is a mark.
+        PaintFocus(painter, FretboardLayout::BarreRect(*m_view.barre).adjusted(-75, -75, 75, 75));
     else
         PaintFocus(painter, {});
 }

@@ -1,6 +1,7 @@
 // The pictures without a mouse: their parts as a screen reader finds them, the keys that work
 // on them, and what the pointer is told before it presses.
 #include "controls/application.h"
+#include "controls/colours.h"
 #include "support/mainwindow.h"
 
 #include <QAccessible>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void BarreByKeyboard();
     void TheMenuKeyOffersWhatARightClickDoes();
     void TheFocusIsSeen();
+    void NothingCoversTheBarre();
     void APointedFretShowsItsNote();
     void APointedKeyShowsItsNote();
     void ThePressIsSeenAtOnce();
@@ -246,6 +248,22 @@ void PicturePartsTest::TheFocusIsSeen() {
         picture->MoveFocusTo(3);
         QVERIFY(picture->grab().toImage() != with);
     }
+}
+
+// The whole bar stays a mark, whatever is shown around it.
+void PicturePartsTest::NothingCoversTheBarre() {
+    constexpr int barrePart = 6;
+    const QPointF crossing = FretboardLayout::MarkCentre(2, 5);
+    m_main->Move(m_main->board, crossing);
+    QTest::mouseClick(m_main->Find(QStringLiteral("Label3(4)")), Qt::LeftButton);
+    QCOMPARE(m_main->Pixel(m_main->board, crossing), Colours::mark);
+    m_main->board->setFocus();
+    m_main->board->MoveFocusTo(barrePart);
+    const QRectF bar = FretboardLayout::BarreRect(*m_main->workbench.ShownBarre());
+    for (int row = 0; row < stringCount; ++row)
+        QCOMPARE(m_main->Pixel(m_main->board,
+                               {bar.center().x(), FretboardLayout::MarkCentre(row, 5).y()}),
+                 Colours::mark);
 }
 
 void PicturePartsTest::APointedFretShowsItsNote() {
