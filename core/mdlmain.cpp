@@ -8,6 +8,8 @@
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
 #include "settings/frmsettings.h"
+#include "workbench/eventclock.h"
+#include "workbench/midiapi.h"
 
 #include <QDir>
 #include <QMessageBox>
@@ -19,7 +21,15 @@ QString FolderPath(const QString& folder) {
 }
 
 mdlMain::mdlMain(Application& application, const QString& folder)
-    : m_application(application), m_splash(std::make_unique<frmSplash>()) {
+    : mdlMain(application, folder, std::make_unique<MidiAPI>(FolderPath(folder)),
+              std::make_unique<EventClock>()) {}
+
+mdlMain::mdlMain(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
+                 std::unique_ptr<Clock> clock)
+    : m_application(application),
+      m_midi(std::move(midi)),
+      m_clock(std::move(clock)),
+      m_splash(std::make_unique<frmSplash>()) {
     m_state.AppPath = FolderPath(folder);
 }
 
@@ -28,9 +38,8 @@ mdlMain::~mdlMain() = default;
 void mdlMain::Main() {
     m_splash->show();
     QApplication::processEvents();
-    m_midi = std::make_unique<MidiAPI>(m_state.AppPath);
     m_workbench = std::make_unique<Workbench>(m_state);
-    m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, m_clock);
+    m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, *m_clock);
     m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
     m_splash->ProgressStep();
     m_window->ShowTypes();
@@ -77,7 +86,9 @@ void mdlMain::LoadLanguage() {
 void mdlMain::ConnectWindows() {
     m_help = std::make_unique<HelpOpener>(
         m_state,
-        [this] { return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()}; },
+        [this] {
+            return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()};
+        },
         m_window.get());
     Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(), [this](bool modal) {
         if (modal)
@@ -93,7 +104,7 @@ void mdlMain::ConnectWindows() {
 
 void mdlMain::ShowSettings() {
     frmSettings dialog(
-        m_state, *m_midi, m_clock,
+        m_state, *m_midi, *m_clock,
         [this](const OpenStrings& strings, bool thinStringAtBottom) {
             LayStrings(m_state, strings, thinStringAtBottom);
             m_workbench->StringsChanged();

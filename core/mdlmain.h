@@ -2,9 +2,8 @@
 #pragma once
 
 #include "core/appstate.h"
-#include "workbench/eventclock.h"
 #include "workbench/frmmain.h"
-#include "workbench/midiapi.h"
+#include "workbench/sound.h"
 #include "workbench/workbench.h"
 
 #include <memory>
@@ -18,6 +17,10 @@ class mdlMain {
 public:
     // folder: where the executable lies; the program's folder from now on.
     mdlMain(Application& application, const QString& folder);
+
+    // With a sound and a clock other than the machine's.
+    mdlMain(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
+            std::unique_ptr<Clock> clock);
     ~mdlMain();
 
     // Shows the splash, loads everything, shows the main window. A step that fails throws
@@ -35,8 +38,8 @@ private:
 
     Application& m_application;
     AppState m_state;
-    EventClock m_clock;
-    std::unique_ptr<MidiAPI> m_midi;
+    std::unique_ptr<MidiPlayer> m_midi;
+    std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
     std::unique_ptr<HelpOpener> m_help;
