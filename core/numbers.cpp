@@ -5,24 +5,26 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
+#include <string>
 
 double LeadingNumber(QStringView text) {
     text = text.trimmed();
-    if (text.startsWith(u'+'))
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+'))
         text = text.mid(1);
-    if (text.isEmpty() ||
-        !(text[0] == u'-' || text[0] == u'.' || (text[0] >= u'0' && text[0] <= u'9')))
-        return 0; // from_chars would read "inf" and "nan" as numbers.
+    if (text.isEmpty() || !(text[0] == u'.' || (text[0] >= u'0' && text[0] <= u'9')))
+        return 0; // from_chars would read "inf" and "nan" as numbers, and a second sign.
     const QByteArray bytes = text.toLatin1();
-    if (bytes.startsWith("-i") || bytes.startsWith("-n") || bytes.startsWith("-I") ||
-        bytes.startsWith("-N"))
-        return 0;
     double number = 0;
     const auto [end, failure] = std::from_chars(bytes.begin(), bytes.end(), number);
-    if (failure == std::errc::result_out_of_range)
-        return bytes.startsWith('-') ? std::numeric_limits<double>::lowest()
-                                     : std::numeric_limits<double>::max();
-    return number;
+    if (failure == std::errc::result_out_of_range) { // A stream reads the largest number, or 0.
+        std::istringstream digits(std::string(bytes.begin(), end));
+        digits.imbue(std::locale::classic());
+        digits >> number;
+    }
+    return negative ? -number : number;
 }
 
 int ToInteger16(double number) {

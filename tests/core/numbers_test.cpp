@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <limits>
+
 class NumbersTest : public QObject {
     Q_OBJECT
 
@@ -22,6 +24,10 @@ void NumbersTest::LeadingNumbers_data() {
     QTest::newRow("number and text") << QStringLiteral("  12 frets") << 12.0;
     QTest::newRow("negative") << QStringLiteral("-5x") << -5.0;
     QTest::newRow("signed") << QStringLiteral("+5") << 5.0;
+    QTest::newRow("two signs are no number") << QStringLiteral("+-5") << 0.0;
+    QTest::newRow("a sign alone") << QStringLiteral("-") << 0.0;
+    QTest::newRow("too near 0") << QStringLiteral("1e-999 frets") << 0.0;
+    QTest::newRow("too large") << QStringLiteral("-1e999") << std::numeric_limits<double>::lowest();
     QTest::newRow("exponent") << QStringLiteral("1e9") << 1e9;
     QTest::newRow("large") << QStringLiteral("99999999999") << 99999999999.0;
     QTest::newRow("infinity is a word") << QStringLiteral("inf") << 0.0;
