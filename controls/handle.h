@@ -6,21 +6,25 @@
 #include <functional>
 #include <type_traits>
 
+// Calls it as Handle says.
+template <typename Receiver, typename Handler, typename... Arguments>
+void CallHandler(Receiver* receiver, const Handler& handler, const Arguments&... arguments) {
+    if constexpr (std::is_invocable_v<Handler, Receiver*, Arguments...>)
+        std::invoke(handler, receiver, arguments...);
+    else if constexpr (std::is_invocable_v<Handler, Arguments...>)
+        std::invoke(handler, arguments...);
+    else if constexpr (std::is_invocable_v<Handler, Receiver*>)
+        std::invoke(handler, receiver);
+    else
+        std::invoke(handler);
+}
+
 // Runs the handler (a member of the receiver, or a function; with the signal's arguments or
 // with none) at each signal. A run-time error that it throws is reported here: it must not
 // travel through the toolkit, which is not made for that.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 void Handle(Sender* sender, Signal signal, Receiver* receiver, Handler handler) {
     QObject::connect(sender, signal, receiver, [receiver, handler](auto... arguments) {
-        Application::Guard([&] {
-            if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>)
-                std::invoke(handler, receiver, arguments...);
-            else if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>)
-                std::invoke(handler, arguments...);
-            else if constexpr (std::is_invocable_v<Handler, Receiver*>)
-                std::invoke(handler, receiver);
-            else
-                std::invoke(handler);
-        });
+        Application::Guard([&] { CallHandler(receiver, handler, arguments...); });
     });
 }
