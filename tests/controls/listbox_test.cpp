@@ -95,24 +95,25 @@ void ListBoxTest::CtrlClickSelectsLikeAClick() {
 
 void ListBoxTest::KeysMoveTheSelection_data() {
     QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
     QTest::addColumn<int>("row");
-    const int none = Qt::NoModifier;
+    const Qt::KeyboardModifiers none;
+    const Qt::KeyboardModifiers ctrl(Qt::ControlModifier);
+    const Qt::KeyboardModifiers shift(Qt::ShiftModifier);
     QTest::newRow("down") << int(Qt::Key_Down) << none << 2;
     QTest::newRow("up") << int(Qt::Key_Up) << none << 0;
     QTest::newRow("the end") << int(Qt::Key_End) << none << 3;
     QTest::newRow("the beginning") << int(Qt::Key_Home) << none << 0;
-    QTest::newRow("down with Ctrl") << int(Qt::Key_Down) << int(Qt::ControlModifier) << 2;
-    QTest::newRow("the end with Ctrl") << int(Qt::Key_End) << int(Qt::ControlModifier) << 3;
-    QTest::newRow("up with Shift") << int(Qt::Key_Up) << int(Qt::ShiftModifier) << 0;
+    QTest::newRow("down with Ctrl") << int(Qt::Key_Down) << ctrl << 2;
+    QTest::newRow("the end with Ctrl") << int(Qt::Key_End) << ctrl << 3;
+    QTest::newRow("up with Shift") << int(Qt::Key_Up) << shift << 0;
 }
 
 void ListBoxTest::KeysMoveTheSelection() {
     QFETCH(const int, key);
-    QFETCH(const int, modifiers);
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
     QFETCH(const int, row);
-    QTest::keyClick(m_list.get(), static_cast<Qt::Key>(key),
-                    Qt::KeyboardModifiers::fromInt(modifiers));
+    QTest::keyClick(m_list.get(), static_cast<Qt::Key>(key), modifiers);
     QCOMPARE(m_list->Row(), row);
     QCOMPARE(m_chosen, std::vector{row});
 }
