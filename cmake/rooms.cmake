@@ -15,6 +15,9 @@ if(TONVIK_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
     target_link_options(tonvik_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(TONVIK_FUZZ)
+    target_compile_options(tonvik_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # tonvik_room(NAME SOURCES file... LINK target...): one static library per room.
 function(tonvik_room name)
