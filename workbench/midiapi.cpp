@@ -5,6 +5,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <deque>
+#include <thread>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 QByteArray ReadMidiFile(const QString& fileName) {
     constexpr qint64 largest = 1 << 20;
@@ -45,6 +55,9 @@ public:
 
     ~Synthesiser() {
         Close();
+        if (!m_ended.empty())
+            std::this_thread::sleep_for(lastLook);
+        DeletePlayers(m_ended.size());
         if (m_driver != nullptr)
             m_fluid.delete_fluid_audio_driver(m_driver);
         if (m_synth != nullptr)
@@ -53,6 +66,7 @@ public:
     }
 
     bool Open(const QByteArray& midi) {
+        DeleteEndedPlayers();
         m_player = m_fluid.new_fluid_player(m_synth);
         if (m_player == nullptr)
             return false;
@@ -68,14 +82,38 @@ public:
         if (m_player == nullptr)
             return;
         m_fluid.fluid_player_stop(m_player);
-        m_fluid.delete_fluid_player(m_player);
-        m_player = nullptr;
         m_fluid.fluid_synth_all_notes_off(m_synth, -1); // They die away; nothing is cut.
+        m_ended.push_back({std::exchange(m_player, nullptr), Time::now() + lastLook});
+        QTimer::singleShot(lastLook + 1ms, &m_context, [this] { DeleteEndedPlayers(); });
     }
 
 private:
+    using Time = std::chrono::steady_clock;
+    struct EndedPlayer {
+        fluid_player_t* player;
+        Time::time_point mayGo;
+    };
+
+    // A player's thread reads its notes every four milliseconds, and once more at most after it
+    // has been stopped; the library does not wait for it when it deletes them.
+    static constexpr std::chrono::milliseconds lastLook{10};
+
     explicit Synthesiser(const FluidSynthLibrary& library)
         : m_fluid(library), m_settings(library.new_fluid_settings()) {}
+
+    void DeleteEndedPlayers() {
+        const auto stays = std::find_if(
+            m_ended.begin(), m_ended.end(),
+            [now = Time::now()](const EndedPlayer& ended) { return ended.mayGo > now; });
+        DeletePlayers(static_cast<std::size_t>(stays - m_ended.begin()));
+    }
+
+    void DeletePlayers(std::size_t count) {
+        for (; count > 0; --count) {
+            m_fluid.delete_fluid_player(m_ended.front().player);
+            m_ended.pop_front();
+        }
+    }
 
     void Set(const char* name, int value) {
         m_fluid.fluid_settings_setint(m_settings, name, value);
@@ -122,6 +160,8 @@ private:
     fluid_synth_t* m_synth = nullptr;
     fluid_audio_driver_t* m_driver = nullptr;
     fluid_player_t* m_player = nullptr;
+    std::deque<EndedPlayer> m_ended; // The oldest first.
+    QObject m_context;               // While it is there, so is this object.
 };
 
 MidiAPI::MidiAPI(QString appPath) : m_appPath(std::move(appPath)) {}

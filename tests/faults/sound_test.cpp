@@ -54,6 +54,16 @@ private Q_SLOTS:
         QCOMPARE(Play(someNote).last(), QStringLiteral("library"));
     }
 
+    // A note that ends is let go only when the synthesiser's thread reads it no more.
+    void ThousandsOfNotesInARow() {
+        if (FindSoundFont(m_folder->Path()).isEmpty())
+            QSKIP("There is no sound font.");
+        UseDevice(patientDevice);
+        m_environment.insert(QStringLiteral("MALLOC_PERTURB_"), QStringLiteral("85"));
+        QCOMPARE(Play(someNote, 2000),
+                 QStringList({QStringLiteral("sounds"), QStringLiteral("library")}));
+    }
+
     void NoDevice() {
         QCOMPARE(Play(someNote),
                  QStringList({QStringLiteral("silent"), QStringLiteral("library")}));
@@ -128,10 +138,10 @@ private:
     }
 
     // What the player said, each once; a crash where it did not end well.
-    QStringList Play(const QString& file) {
+    QStringList Play(const QString& file, int notes = 20) {
         QProcess player;
         player.setProcessEnvironment(m_environment);
-        player.start(QStringLiteral(PLAYER), {m_folder->Path(), file});
+        player.start(QStringLiteral(PLAYER), {m_folder->Path(), file, QString::number(notes)});
         const bool ended = player.waitForFinished();
         m_messages = player.readAllStandardError();
         if (!ended || player.exitStatus() != QProcess::NormalExit || player.exitCode() != 0)
