@@ -113,6 +113,10 @@ void mdlMain::ShowSettings() {
         m_window.get());
     Application::Guard([&dialog] { dialog.Form_Load(); });
     dialog.exec();
+    if (dialog.Unsaved())
+        m_window->ShowNotice(
+            {QStringLiteral("Настройки не запомнены. ") + dialog.Unsaved()->russian,
+             QStringLiteral("The settings were not remembered. ") + dialog.Unsaved()->english});
 }
 
 void mdlMain::ShowDiagrams() {

@@ -8,7 +8,6 @@
 #include "core/runtimeerror.h"
 #include "core/tunings.h"
 #include "settings/soundnumbers.h"
-#include "settings/unsavedsettings.h"
 #include "workbench/playback.h"
 
 #include <QScopeGuard>
@@ -176,13 +175,9 @@ void frmSettings::Image1_Click(int index) {
 }
 
 void frmSettings::cmdOK_Click() {
-    auto unsaved = Check1->isChecked() ? SaveDialogSettings() : std::nullopt;
+    m_unsaved = Check1->isChecked() ? SaveDialogSettings() : std::nullopt;
     m_handOver(Strings(), ThinAtBottom(CheckedLayout()));
     accept();
-    // The dialog is hidden and still holds what was chosen.
-    while (unsaved &&
-           TrySavingAgain(*unsaved, windowTitle(), m_state.InterfaceTongue(), parentWidget()))
-        unsaved = SaveDialogSettings();
 }
 
 void frmSettings::cmdCancel_Click() {

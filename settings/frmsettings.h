@@ -41,6 +41,9 @@ public:
     // error when the chosen language file is no longer there; nothing is written then.
     std::optional<Phrase> SaveDialogSettings();
 
+    // After OK: why the settings file could not be written.
+    const std::optional<Phrase>& Unsaved() const { return m_unsaved; }
+
     void Option1_Click();
     void Option2_Click();
     void Option3_Click();
@@ -87,5 +90,6 @@ private:
     MidiPlayer& m_midi;
     Clock& m_clock;
     HandOver m_handOver;
+    std::optional<Phrase> m_unsaved;
     bool m_filling = false; // No handler of the scroll bars runs.
 };

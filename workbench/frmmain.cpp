@@ -151,6 +151,7 @@ void frmMain::VScroll3_Change(int value) {
 }
 
 void frmMain::Do(const std::function<void()>& command) {
+    m_notice.clear();
     const auto show = qScopeGuard([this] { ShowState(); });
     command();
 }

@@ -83,6 +83,10 @@ public:
     // Runs the key's command. shift: 1 Shift, 2 Ctrl, 4 Alt. False for a key that has none.
     bool Form_KeyDown(int key, int shift);
 
+    // Shows the text on the line under the fret numbers until the next command: news that
+    // nobody has to answer.
+    void ShowNotice(const Phrase& notice);
+
     Workbench& State() { return m_workbench; }
 
     QGroupBox* Frame1;
@@ -168,4 +172,5 @@ private:
     bool m_stringLabelLit = false;
     std::optional<BoardPlace> m_pointed; // Under the pointer...
     std::optional<int> m_pointedKey;     // ...and on the piano.
+    QString m_notice;
 };

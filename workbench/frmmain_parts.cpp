@@ -94,7 +94,18 @@ PicturePart frmMain::KeyPart(int key) {
 }
 
 void frmMain::ShowHint() {
-    panel->lblHint->setText(Hint());
+    QLabel& label = *panel->lblHint;
+    const QString hint = Hint();
+    label.setText(label.fontMetrics().elidedText(hint, Qt::ElideRight, label.width()));
+    label.setToolTip(label.text() == hint ? QString() : hint);
+    label.setAccessibleName(hint);
+}
+
+void frmMain::ShowNotice(const Phrase& notice) {
+    m_notice = notice.In(m_state.InterfaceTongue());
+    ShowHint();
+    QAccessibleEvent alert(panel->lblHint, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 QString frmMain::Hint() const {
@@ -106,6 +117,8 @@ QString frmMain::Hint() const {
         return note ? CrossingHint(string, m_pointed->fret, *note, marked, tongue) : QString();
     }
     const auto& keyboard = *panel->picKeyboard;
+    if (!m_pointedKey && !m_notice.isEmpty())
+        return m_notice;
     if (m_pointedKey || keyboard.hasFocus())
         return KeyHint(m_pointedKey.value_or(keyboard.FocusPart()), marked, tongue);
     return {};
