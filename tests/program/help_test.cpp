@@ -52,7 +52,8 @@ private Q_SLOTS:
              {QStringLiteral("Shift+F3"), QStringLiteral("Ctrl+Вниз"), QStringLiteral("Ctrl+Вверх"),
               QStringLiteral("Alt+Вниз"), QStringLiteral("Alt+Вверх"), QStringLiteral("Shift+Вниз"),
               QStringLiteral("Shift+Вверх"), QStringLiteral("Shift+Влево"),
-              QStringLiteral("Shift+Вправо")})
+              QStringLiteral("Shift+Вправо"), QStringLiteral("PgUp, PgDn"), QStringLiteral("+ и -"),
+              QStringLiteral("Home, End"), QStringLiteral("Del"), QStringLiteral("Menu")})
             QTest::newRow(qPrintable(key)) << key;
     }
     void EveryKeyIsExplained() {
