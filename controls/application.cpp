@@ -30,7 +30,7 @@ RunTimeError OutOfMemory() {
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-    ApplyTheme(*this);
+    ApplyTheme();
     InstallAccessiblePictures();
     setQuitOnLastWindowClosed(false);
 }

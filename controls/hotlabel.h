@@ -7,7 +7,7 @@ class HotLabel : public QLabel {
     Q_OBJECT
 
 public:
-    HotLabel(const QString& name, QWidget* parent = nullptr);
+    explicit HotLabel(const QString& name, QWidget* parent = nullptr);
 
 Q_SIGNALS:
     // The second press of a double click is a press like any other.

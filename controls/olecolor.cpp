@@ -3,9 +3,17 @@
 #include <QApplication>
 #include <QPalette>
 
+namespace {
+
+int Byte(quint32 value) {
+    return static_cast<int>(value & 0xFF);
+}
+
+} // namespace
+
 QColor OleColor::In(const QPalette& palette) const {
     if ((value & 0x80000000U) == 0)
-        return QColor(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF);
+        return QColor::fromRgb(qRgb(Byte(value), Byte(value >> 8), Byte(value >> 16)));
     switch (value & 0xFF) {
     case 5: // Window.
         return palette.color(QPalette::Base);

@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <QStyleFactory>
 
-void ApplyTheme(QApplication& application) {
+void ApplyTheme() {
     QPalette palette(Colours::buttonFace, Colours::window);
     palette.setColor(QPalette::WindowText, Colours::text);
     palette.setColor(QPalette::Text, Colours::text);
@@ -26,6 +26,6 @@ void ApplyTheme(QApplication& application) {
     palette.setColor(QPalette::Link, Colours::focus);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, Colours::mutedText);
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    application.setPalette(palette);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette);
 }

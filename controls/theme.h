@@ -1,7 +1,5 @@
 // The look that all windows share.
 #pragma once
 
-class QApplication;
-
-// Gives the application its own style, palette and fonts' colours on any desktop.
-void ApplyTheme(QApplication& application);
+// Gives the application its own style and palette on any desktop.
+void ApplyTheme();

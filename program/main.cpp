@@ -7,8 +7,8 @@
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
-    application.setApplicationName(QStringLiteral("tonvik"));
-    application.setDesktopFileName(QStringLiteral("tonvik"));
+    QCoreApplication::setApplicationName(QStringLiteral("tonvik"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tonvik"));
     mdlMain start(application, QCoreApplication::applicationDirPath());
     try {
         start.Main();

@@ -59,7 +59,7 @@ QPixmap Skin() {
 QIcon Square(const QColor& colour) {
     QPixmap pixmap(64, 64);
     pixmap.fill(colour);
-    return QIcon(pixmap);
+    return {pixmap};
 }
 
 } // namespace

@@ -46,7 +46,7 @@ private:
 };
 
 QString CataloguesTest::Write(const QByteArray& bytes) const {
-    const QString path = m_folder.filePath(QStringLiteral("file.dat"));
+    QString path = m_folder.filePath(QStringLiteral("file.dat"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("cannot write the test's file");

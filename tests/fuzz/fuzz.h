@@ -25,7 +25,7 @@ public:
 
 private:
     QByteArray Take(qsizetype size, qsizetype dropped) {
-        const QByteArray taken = m_bytes.left(size);
+        QByteArray taken = m_bytes.left(size);
         m_bytes.remove(0, size + dropped);
         return taken;
     }
@@ -58,7 +58,7 @@ public:
 
     // The path of a file that holds the bytes now.
     QString Write(const QString& name, const QByteArray& bytes) const {
-        const QString path = m_folder.filePath(name);
+        QString path = m_folder.filePath(name);
         QFile file(path);
         Require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
                 "the folder can be written");

@@ -37,7 +37,7 @@ int Parameter(const char* name, int usual) {
 qint64 MemoryInUse() {
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
     const auto memory = mallinfo2();
-    return static_cast<qint64>(memory.uordblks + memory.hblkhd);
+    return static_cast<qint64>(memory.uordblks) + static_cast<qint64>(memory.hblkhd);
 #else
     return 0;
 #endif

@@ -157,8 +157,8 @@ void SoundFilesTest::Pitches() {
     // The strongest frequency within a quarter tone.
     double best = 0;
     double bestPower = -1;
-    for (double cents = -50; cents <= 50; cents += 1) {
-        const double step = 2 * std::numbers::pi * asked * std::exp2(cents / 1200) / sampleRate;
+    for (int cents = -50; cents <= 50; ++cents) {
+        const double step = 2 * std::numbers::pi * asked * std::exp2(cents / 1200.0) / sampleRate;
         double real = 0;
         double imaginary = 0;
         const auto first = static_cast<std::size_t>(0.1 * sampleRate);

@@ -58,9 +58,10 @@ void LayoutsTest::KeyRects() {
     for (int key = 0; key < keyCount; ++key) {
         if (!IsBlackKey(key))
             continue;
+        const qsizetype octave = black / 5;
         QCOMPARE(
             KeyboardLayout::KeyRect(key),
-            QRectF(blackLefts[black % 5] + 2520.0 * static_cast<double>(black / 5), 0, 255, 1095));
+            QRectF(blackLefts[black % 5] + 2520.0 * static_cast<double>(octave), 0, 255, 1095));
         ++black;
     }
     QCOMPARE(black, 15);
