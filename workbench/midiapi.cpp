@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QObject>
 #include <QTimer>
+#include <QtEndian>
 
 #include <algorithm>
 #include <chrono>
@@ -16,13 +17,32 @@
 
 using namespace std::chrono_literals;
 
+namespace {
+
+// Whether every chunk (four bytes of its kind, four of its length, and so many more) ends in the
+// file. The library follows a length that lies backwards, and never comes back.
+bool ChunksAreWhole(const QByteArray& midi) {
+    constexpr qsizetype head = 8;
+    qsizetype place = 0;
+    while (midi.size() - place >= head) {
+        const qsizetype length = qFromBigEndian<quint32>(midi.constData() + place + head / 2);
+        place += head;
+        if (length > midi.size() - place)
+            return false;
+        place += length;
+    }
+    return true;
+}
+
+} // namespace
+
 QByteArray ReadMidiFile(const QString& fileName) {
     constexpr qint64 largest = 1 << 20;
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly) || file.size() > largest)
         return {};
     const QByteArray bytes = file.read(largest);
-    return bytes.startsWith("MThd") ? bytes : QByteArray();
+    return bytes.startsWith("MThd") && ChunksAreWhole(bytes) ? bytes : QByteArray();
 }
 
 QString FindSoundFont(const QString& appPath) {

@@ -31,8 +31,8 @@ private:
     bool m_midiOpen = false;
 };
 
-// The bytes of a MIDI file; empty for one that is missing, no MIDI file or too large to be
-// a note's.
+// The bytes of a MIDI file; empty for one that is missing, cut off, no MIDI file or too large
+// to be a note's.
 QByteArray ReadMidiFile(const QString& fileName);
 
 // The sound font to play with: one beside the program, else the desktop's; empty for none.

@@ -184,6 +184,11 @@ void SoundFilesTest::BadFilesAreSilent_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("no MIDI file") << QByteArray("RIFF....");
+    QTest::newRow("cut off") << QByteArray("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\xFF\0\0\x90", 24);
+    // Such a chunk leads back to where it begins; the synthesiser would follow it for ever.
+    QTest::newRow("a chunk that ends before it begins")
+        << QByteArray("MThd\0\0\0\6\0\0\0\1\0\x60\0\0\0\0\xFF\xFF\xFF\xF8", 22) +
+               QByteArray(30, '\0');
     QTest::newRow("too large") << QByteArray("MThd") + QByteArray(2 << 20, 'x');
 }
 
