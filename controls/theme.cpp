@@ -3,8 +3,32 @@
 #include "controls/colours.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
+
+namespace {
+
+// The toolkit's own style, whose default button looks the same with the focus and without.
+class Style : public QProxyStyle {
+public:
+    Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (element != CE_PushButton || !option->state.testFlag(State_HasFocus))
+            return;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(Colours::focus, 2));
+        painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 2, 2);
+        painter->restore();
+    }
+};
+
+} // namespace
 
 void ApplyTheme() {
     QPalette palette(Colours::buttonFace, Colours::window);
@@ -26,6 +50,6 @@ void ApplyTheme() {
     palette.setColor(QPalette::Link, Colours::focus);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, Colours::mutedText);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style);
     QApplication::setPalette(palette);
 }

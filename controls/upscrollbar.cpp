@@ -1,5 +1,9 @@
 #include "controls/upscrollbar.h"
 
+#include "controls/colours.h"
+
+#include <QPainter>
+
 UpScrollBar::UpScrollBar(const QString& name, int least, int most, QWidget* parent)
     : QScrollBar(Qt::Vertical, parent) {
     setObjectName(name);
@@ -19,6 +23,16 @@ void UpScrollBar::mousePressEvent(QMouseEvent* event) {
 void UpScrollBar::mouseReleaseEvent(QMouseEvent* event) {
     QScrollBar::mouseReleaseEvent(event);
     m_pressed = false;
+}
+
+// The toolkit's scroll bar looks the same with the focus.
+void UpScrollBar::paintEvent(QPaintEvent* event) {
+    QScrollBar::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(Colours::focus, 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 // The toolkit turns keys and wheel round, but never the arrows.

@@ -57,7 +57,9 @@ void frmSettings::LoadDialogSettings() {
     const QScopedValueRollback filling(m_filling, true);
     const ProfileFile settings = ProfileFile::Read(m_state.SettingsFile());
     const StringLayout layout = ReadLayout(settings);
-    Options[static_cast<std::size_t>(layout) - 1]->setChecked(true);
+    QRadioButton* chosen = Options[static_cast<std::size_t>(layout) - 1];
+    chosen->setChecked(true);
+    chosen->setFocus();
     if (layout == StringLayout::UserThinAtTop || layout == StringLayout::UserThinAtBottom) {
         const QString row = settings.Value(settingsSection, tuningRowKey, QStringLiteral("3"));
         lstTunings->SelectRow(ToInteger16(LeadingNumber(row)));

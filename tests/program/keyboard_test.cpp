@@ -1,0 +1,187 @@
+// Every window by keyboard alone: Tab reaches every control that can be used, the control with
+// the focus looks different, and each has a name for those who do not see it.
+#include "controls/application.h"
+#include "core/mdlmain.h"
+#include "info/frmabout.h"
+#include "support/dialogs.h"
+#include "tests/core/testfolder.h"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+
+namespace {
+
+// The controls of a window that take the focus by Tab, as far as they can be used now.
+QList<QWidget*> Reachable(const QWidget& window) {
+    QList<QWidget*> found;
+    for (QWidget* control : window.findChildren<QWidget*>())
+        if (control->window() == &window && control->isVisible() && control->isEnabled() &&
+            (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr)
+            found += control;
+    return found;
+}
+
+QByteArray Name(const QWidget* control) {
+    return (control->objectName() + QStringLiteral(" of ") + control->window()->objectName())
+        .toUtf8();
+}
+
+// What the control looks like, with the frame that the window paints around it.
+QImage Look(QWidget& control) {
+    return control.window()
+        ->grab(QRect(control.mapTo(control.window(), QPoint(-2, -2)), control.size() + QSize(4, 4)))
+        .toImage();
+}
+
+} // namespace
+
+class KeyboardTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_start.reset(); }
+
+    void MainWindow();
+    void Settings();
+    void SettingsOfOnesOwn();
+    void Help();
+    void About();
+    void Diagrams();
+
+private:
+    void UseByKeyboard(QWidget& window);
+    void TabReachesEveryControl(QWidget& window);
+    void TheFocusIsSeen(QWidget& window);
+    void EveryControlHasAName(QWidget& window);
+
+    TestFolder m_folder;
+    std::unique_ptr<mdlMain> m_start;
+};
+
+void KeyboardTest::init() {
+    QVERIFY(m_folder.Write(QStringLiteral("help.dat"), "help\r\n"));
+    m_start = std::make_unique<mdlMain>(*static_cast<Application*>(qApp), m_folder.Path());
+    m_start->Main();
+    QVERIFY(QTest::qWaitForWindowActive(&m_start->Window()));
+}
+
+void KeyboardTest::UseByKeyboard(QWidget& window) {
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    QVERIFY(!Reachable(window).isEmpty());
+    TabReachesEveryControl(window);
+    TheFocusIsSeen(window);
+    EveryControlHasAName(window);
+}
+
+void KeyboardTest::TabReachesEveryControl(QWidget& window) {
+    QList<QWidget*> expected = Reachable(window);
+    // Of radio buttons Tab reaches the chosen one, and arrow keys the others.
+    expected.removeIf([](QWidget* control) {
+        const auto* button = qobject_cast<QAbstractButton*>(control);
+        return button != nullptr && button->autoExclusive() && !button->isChecked();
+    });
+    QSet<QWidget*> reached;
+    for (qsizetype i = 0; i < 3 * expected.size(); ++i) {
+        QWidget* focus = window.focusWidget();
+        QVERIFY(focus != nullptr);
+        reached += focus;
+        // In a text Tab is a character.
+        const auto* text = qobject_cast<QPlainTextEdit*>(focus);
+        const bool types = text != nullptr && !text->tabChangesFocus() && !text->isReadOnly();
+        QTest::keyClick(focus, Qt::Key_Tab, types ? Qt::ControlModifier : Qt::NoModifier);
+    }
+    for (QWidget* control : expected)
+        QVERIFY2(reached.contains(control), Name(control).constData());
+}
+
+void KeyboardTest::TheFocusIsSeen(QWidget& window) {
+    for (QWidget* control : Reachable(window)) {
+        control->setFocus(Qt::TabFocusReason);
+        QVERIFY2(control->hasFocus(), Name(control).constData());
+        const QImage with = Look(*control);
+        control->clearFocus();
+        QVERIFY2(Look(*control) != with, Name(control).constData());
+    }
+}
+
+void KeyboardTest::EveryControlHasAName(QWidget& window) {
+    for (QWidget* control : Reachable(window)) {
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(control);
+        QVERIFY(accessible != nullptr);
+        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), Name(control).constData());
+    }
+}
+
+void KeyboardTest::MainWindow() {
+    UseByKeyboard(m_start->Window());
+}
+
+void KeyboardTest::Settings() {
+    WhenModal([this](QWidget* dialog) {
+        QCOMPARE(dialog->focusWidget()->objectName(), QStringLiteral("Option2"));
+        UseByKeyboard(*dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    QTest::keyClick(&m_start->Window(), Qt::Key_F10);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void KeyboardTest::SettingsOfOnesOwn() {
+    WhenModal([this](QWidget* dialog) {
+        auto* own = dialog->findChild<QAbstractButton*>(QStringLiteral("Option4"));
+        own->setFocus();
+        QTest::keyClick(own, Qt::Key_Space);
+        QVERIFY(dialog->findChild<QWidget*>(QStringLiteral("lstTunings"))->isEnabled());
+        UseByKeyboard(*dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    });
+    QTest::keyClick(&m_start->Window(), Qt::Key_F10);
+}
+
+void KeyboardTest::Help() {
+    WhenModal([this](QWidget* help) {
+        UseByKeyboard(*help);
+        QTest::keyClick(help, Qt::Key_Escape);
+    });
+    auto* button = m_start->Window().findChild<QWidget*>(QStringLiteral("cmdHelp"));
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void KeyboardTest::About() {
+    frmAbout about(m_start->State(), {12, 50});
+    about.show();
+    UseByKeyboard(about);
+    QTest::keyClick(&about, Qt::Key_Escape);
+    QVERIFY(!about.isVisible());
+}
+
+void KeyboardTest::Diagrams() {
+    auto* button = m_start->Window().findChild<QWidget*>(QStringLiteral("cmdNewDiag"));
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == QStringLiteral("frmDiags")) {
+            auto* add = window->findChild<QAbstractButton*>(QStringLiteral("cmdAdd"));
+            add->setFocus();
+            QTest::keyClick(add, Qt::Key_Space);
+            UseByKeyboard(*window);
+            return;
+        }
+    QFAIL("No sheet was opened.");
+}
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    KeyboardTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "keyboard_test.moc"
