@@ -13,7 +13,7 @@ void CheckIndex(qint64 index, qint64 first, qint64 last, const Phrase& table) {
             {QStringLiteral("Выход за границы: %1 – нет элемента с номером %2 (список пуст).")
                  .arg(table.russian)
                  .arg(index),
-             QStringLiteral("Out of range: %1 has no element %2 (it is empty).")
+             QStringLiteral("Out of range: %1 – no element %2 (it is empty).")
                  .arg(table.english)
                  .arg(index)});
     throw RunTimeError(
@@ -22,7 +22,7 @@ void CheckIndex(qint64 index, qint64 first, qint64 last, const Phrase& table) {
              .arg(index)
              .arg(first)
              .arg(last),
-         QStringLiteral("Out of range: %1 has no element %2 (there are %3 to %4).")
+         QStringLiteral("Out of range: %1 – no element %2 (there are %3 to %4).")
              .arg(table.english)
              .arg(index)
              .arg(first)
