@@ -20,11 +20,14 @@ void CallHandler(Receiver* receiver, const Handler& handler, const Arguments&...
 }
 
 // Runs the handler (a member of the receiver, or a function; with the signal's arguments or
-// with none) at each signal. A run-time error that it throws is reported here: it must not
-// travel through the toolkit, which is not made for that.
+// with none) at each signal, while the receiver is whole. A run-time error that it throws is
+// reported here: it must not travel through the toolkit, which is not made for that.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 void Handle(Sender* sender, Signal signal, Receiver* receiver, Handler handler) {
-    QObject::connect(sender, signal, receiver, [receiver, handler](auto... arguments) {
-        Application::Guard([&] { CallHandler(receiver, handler, arguments...); });
+    QObject* object = receiver;
+    QObject::connect(sender, signal, receiver, [object, handler](auto... arguments) {
+        // A window that goes away is only a widget while its controls go, and send signals.
+        if (auto* whole = qobject_cast<Receiver*>(object))
+            Application::Guard([&] { CallHandler(whole, handler, arguments...); });
     });
 }

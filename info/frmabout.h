@@ -14,6 +14,8 @@ class QUrl;
 struct AppState;
 
 class frmAbout : public InfoWindow {
+    Q_OBJECT
+
 public:
     // A run-time error where the chords are too many to be counted. What the author left
     // blank is not shown.

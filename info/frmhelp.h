@@ -14,6 +14,8 @@ class frmAbout;
 struct AppState;
 
 class frmHelp : public InfoWindow {
+    Q_OBJECT
+
 public:
     // chordRows: asked when About is opened. A run-time error where help.dat cannot be read.
     frmHelp(const AppState& state, std::function<ChordRows()> chordRows,

@@ -6,6 +6,8 @@
 class GoldButton;
 
 class InfoWindow : public QDialog {
+    Q_OBJECT
+
 public:
     InfoWindow(const QString& name, QWidget* parent);
 
