@@ -45,14 +45,15 @@ public:
 
     ~Synthesiser() {
         Close();
-        if (m_driver != nullptr)
-            m_fluid.delete_fluid_audio_driver(m_driver);
+        LetGoOfDevice();
         if (m_synth != nullptr)
             m_fluid.delete_fluid_synth(m_synth);
         m_fluid.delete_fluid_settings(m_settings);
     }
 
     bool Open(const QByteArray& midi) {
+        if (m_driver == nullptr && !OpenDevice())
+            return false;
         m_player = m_fluid.new_fluid_player(m_synth);
         if (m_player == nullptr)
             return false;
@@ -72,6 +73,15 @@ public:
         m_player = nullptr;
         m_fluid.fluid_synth_all_notes_off(m_synth, -1); // They die away; nothing is cut.
     }
+
+    // Gives the device back; the next note opens it again.
+    void LetGoOfDevice() {
+        if (m_driver != nullptr)
+            m_fluid.delete_fluid_audio_driver(m_driver);
+        m_driver = nullptr;
+    }
+
+    bool HoldsDevice() const { return m_driver != nullptr; }
 
 private:
     explicit Synthesiser(const FluidSynthLibrary& library)
@@ -124,12 +134,21 @@ private:
     fluid_player_t* m_player = nullptr;
 };
 
-MidiAPI::MidiAPI(QString appPath) : m_appPath(std::move(appPath)) {}
+MidiAPI::MidiAPI(QString appPath, std::chrono::milliseconds ringing)
+    : m_appPath(std::move(appPath)) {
+    m_ringing.setSingleShot(true);
+    m_ringing.setInterval(ringing);
+    QObject::connect(&m_ringing, &QTimer::timeout, &m_ringing, [this] {
+        if (m_synthesiser)
+            m_synthesiser->LetGoOfDevice();
+    });
+}
 
 MidiAPI::~MidiAPI() = default;
 
 void MidiAPI::PlayMidiFile(const QString& fileName) {
     CloseMidiFile();
+    m_ringing.stop();
     m_currentMidiFile = fileName;
     const QByteArray midi = ReadMidiFile(fileName);
     if (!midi.isEmpty() && Wake())
@@ -137,9 +156,15 @@ void MidiAPI::PlayMidiFile(const QString& fileName) {
 }
 
 void MidiAPI::CloseMidiFile() {
-    if (m_midiOpen)
+    if (m_midiOpen) {
         m_synthesiser->Close();
+        m_ringing.start();
+    }
     m_midiOpen = false;
+}
+
+bool MidiAPI::HoldsDevice() const {
+    return m_synthesiser && m_synthesiser->HoldsDevice();
 }
 
 bool MidiAPI::Wake() {

@@ -1,20 +1,46 @@
-// Plays a file a few times as the program does; says after each start whether it sounds.
+// Plays a file a few times as the program does; says after each start whether it sounds. With
+// a third argument the notes are far apart, and it also says whether the device is kept between.
 #include "workbench/fluidsynth.h"
 #include "workbench/midiapi.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cstdio>
 
-int main(int argc, char** argv) {
-    if (argc < 3)
-        return 2;
-    MidiAPI midi(QFile::decodeName(argv[1]));
+namespace {
+
+void PlayInTurn(MidiAPI& midi, const QString& file) {
     for (int note = 0; note < 20; ++note) {
-        midi.PlayMidiFile(QFile::decodeName(argv[2]));
+        midi.PlayMidiFile(file);
         std::puts(midi.MidiOpen() ? "sounds" : "silent");
         if (note % 2 == 0) // Otherwise the next note ends it.
             midi.CloseMidiFile();
     }
+}
+
+void PlayWithRests(MidiAPI& midi, const QString& file) {
+    for (int note = 0; note < 3; ++note) {
+        midi.PlayMidiFile(file);
+        QCoreApplication::processEvents();
+        std::puts(midi.MidiOpen() && midi.HoldsDevice() ? "sounds" : "silent");
+        midi.CloseMidiFile();
+        QCoreApplication::processEvents();
+        std::puts(midi.HoldsDevice() ? "kept" : "let go");
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    if (argc < 3)
+        return 2;
+    const bool rests = argc > 3;
+    MidiAPI midi(QFile::decodeName(argv[1]), std::chrono::seconds(rests ? 0 : 10));
+    if (rests)
+        PlayWithRests(midi, QFile::decodeName(argv[2]));
+    else
+        PlayInTurn(midi, QFile::decodeName(argv[2]));
     std::puts(LoadFluidSynth() != nullptr ? "library" : "no library");
 }

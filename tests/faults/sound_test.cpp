@@ -48,6 +48,15 @@ private Q_SLOTS:
                  QStringList({QStringLiteral("sounds"), QStringLiteral("library")}));
     }
 
+    void TheDeviceIsLetGoOfWhereNoNoteFollows() {
+        if (FindSoundFont(m_folder->Path()).isEmpty())
+            QSKIP("There is no sound font.");
+        UseDevice(patientDevice);
+        QCOMPARE(Play(someNote, {QStringLiteral("with rests")}),
+                 QStringList({QStringLiteral("sounds"), QStringLiteral("let go"),
+                              QStringLiteral("library")}));
+    }
+
     // The first note is on its way when the device fails; the others find it so.
     void ADeviceThatFailsInMidNote() {
         UseDevice(failingDevice);
@@ -128,10 +137,10 @@ private:
     }
 
     // What the player said, each once; a crash where it did not end well.
-    QStringList Play(const QString& file) {
+    QStringList Play(const QString& file, const QStringList& further = {}) {
         QProcess player;
         player.setProcessEnvironment(m_environment);
-        player.start(QStringLiteral(PLAYER), {m_folder->Path(), file});
+        player.start(QStringLiteral(PLAYER), QStringList{m_folder->Path(), file} + further);
         const bool ended = player.waitForFinished();
         m_messages = player.readAllStandardError();
         if (!ended || player.exitStatus() != QProcess::NormalExit || player.exitCode() != 0)
