@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The program against a bare window, from the start to the first complete paint: the shortest
-# times of 20 starts of each, in turn, and the memory that both then hold. Then the program with
+# times of 40 starts of each, in turn, and the memory that both then hold. Then the program with
 # three data files of a million records each: time, and its further memory over the files' size.
 # Needs a display (or QT_QPA_PLATFORM=offscreen) and a release build.
 set -euo pipefail
@@ -18,7 +18,7 @@ shortest() { sort -n "$folder/$1" | awk 'NR == 1 {print $1}'; }
 memory() { sort -n -k2 "$folder/$1" | awk '{v[NR] = $2} END {print v[int((NR + 1) / 2)]}'; }
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN {printf "%.2f\n", a / b}'; }
 
-for _ in {1..21}; do
+for _ in {1..40}; do
     measure program ./start_program
     measure bare ./start_bare
 done

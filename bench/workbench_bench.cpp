@@ -129,6 +129,15 @@ void Recognise(benchmark::State& state) {
 }
 BENCHMARK(Recognise)->Apply(Sizes);
 
+void FindByName(benchmark::State& state) {
+    const QTemporaryDir folder;
+    TextTable types = BuiltInChordTypes();
+    types.AppendDataFile(DataFile(folder, state.range(0), restOfChord));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(FindChordType(types, QStringLiteral("none")));
+}
+BENCHMARK(FindByName)->Apply(Sizes);
+
 } // namespace
 
 int main(int argc, char** argv) {
