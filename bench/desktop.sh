@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # A display and, where PulseAudio is found, a sound server with a silent device, both of the
 # benchmarks' own. Sourced; what is started ends with the script.
 

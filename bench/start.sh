@@ -37,4 +37,4 @@ awk -v folder="$folder" 'BEGIN {
 for _ in {1..5}; do measure million ./start_program "$folder"; done
 size=$(cat "$folder"/*.dat | wc -c)
 echo "StartMillion $(shortest million)"
-echo "MemoryMillion $(ratio $(((($(memory million) - $(memory program))) * 1024)) "$size")"
+echo "MemoryMillion $(ratio $((($(memory million) - $(memory program)) * 1024)) "$size")"

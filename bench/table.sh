@@ -21,19 +21,20 @@ run() {
                 time = $4 * unit[$5]
                 if (!($1 in least) || time < least[$1]) least[$1] = time
             }
-            END {for (name in least) print scale name, least[name]}' >>"$figures"
+            END {for (name in least) print scale name, least[name]}'
 }
 
 start_desktop
-bench/start.sh >>"$figures"
-bench/idle.sh >>"$figures"
-"$bench/sound_notes" build/release/tonvik/ |
-    awk '{print $1, /Note/ ? $2 * 1000 : $2}' >>"$figures"
-run 1 workbench_bench
-run 2 workbench_bench 'Paint'
-run 4 workbench_bench 'Paint'
-run 1 windows_bench
-run 1 lists_bench
+{
+    bench/start.sh
+    bench/idle.sh
+    "$bench/sound_notes" build/release/tonvik/ | awk '{print $1, /Note/ ? $2 * 1000 : $2}'
+    run 1 workbench_bench
+    run 2 workbench_bench Paint
+    run 4 workbench_bench Paint
+    run 1 windows_bench
+    run 1 lists_bench
+} >>"$figures"
 
 # A row: what, the names of its figures, their unit, the goal.
 awk -F'|' -v figures="$figures" '
