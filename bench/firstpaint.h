@@ -1,4 +1,5 @@
-// Ends the process after a window's first complete paint and prints its resident memory.
+// Ends the process after a window's first complete paint; prints the microseconds from the
+// moment in the environment's START (seconds since 1970) to that, and the resident kilobytes.
 #pragma once
 
 #include <QApplication>
@@ -7,6 +8,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <chrono>
 #include <cstdio>
 
 class FirstPaint : public QObject {
@@ -21,11 +23,14 @@ public:
 
 private:
     static void Finish() {
+        const std::chrono::duration<double, std::micro> now =
+            std::chrono::system_clock::now().time_since_epoch();
+        std::printf("%.0f ", now.count() - qgetenv("START").toDouble() * 1e6);
         QFile status(QStringLiteral("/proc/self/status"));
         if (status.open(QIODevice::ReadOnly))
             for (const QByteArray& line : status.readAll().split('\n'))
                 if (line.startsWith("VmRSS"))
-                    std::puts(line.constData());
+                    std::printf("%d\n", line.simplified().split(' ').value(1).toInt());
         QCoreApplication::quit();
     }
 };

@@ -1,9 +1,14 @@
 // The workbench's computations and its window, from a click to the end of the paint.
 #include "controls/application.h"
 #include "core/chordtypes.h"
+#include "core/scales.h"
+#include "core/tunings.h"
 #include "support/mainwindow.h"
+#include "workbench/keyboardpainting.h"
+#include "workbench/neckpainting.h"
 #include "workbench/spelling.h"
 
+#include <QPainter>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -34,7 +39,7 @@ void ChordChangeToPaint(benchmark::State& state) {
         type = (type + 1) % 50;
     }
 }
-BENCHMARK(ChordChangeToPaint);
+BENCHMARK(ChordChangeToPaint)->Unit(benchmark::kMicrosecond);
 
 void ScaleChangeToPaint(benchmark::State& state) {
     MainWindow main;
@@ -47,37 +52,91 @@ void ScaleChangeToPaint(benchmark::State& state) {
         scale = (scale + 1) % 66;
     }
 }
-BENCHMARK(ScaleChangeToPaint);
+BENCHMARK(ScaleChangeToPaint)->Unit(benchmark::kMicrosecond);
 
-QString ChordsFile(const QTemporaryDir& folder, qint64 records) {
-    QFile file(folder.filePath(QStringLiteral("chords.dat")));
+// The painting alone, without what the windows keep painted, at the screen's scale.
+template <typename Paint>
+void PaintPicture(benchmark::State& state, const TwipPicture& picture, Paint paint) {
+    QImage image(picture.size() * picture.devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+    const double scale = picture.Scale() * picture.devicePixelRatioF();
+    for (auto _ : state) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        paint(painter);
+    }
+}
+
+void PaintFretboard(benchmark::State& state) {
+    MainWindow main;
+    main.window.resize(main.window.minimumSize());
+    FretboardView view;
+    for (std::size_t row = 0; row < view.marks.size(); ++row)
+        view.marks[row] = main.workbench.Row(static_cast<int>(row)).mark;
+    PaintPicture(state, *main.board, [&](QPainter& painter) {
+        PaintNeck(painter, true);
+        PaintMarks(painter, view);
+    });
+}
+BENCHMARK(PaintFretboard)->Unit(benchmark::kMicrosecond);
+
+void PaintKeys(benchmark::State& state) {
+    MainWindow main;
+    main.window.resize(main.window.minimumSize());
+    KeyboardView view;
+    for (int key = 0; key < keyCount; ++key)
+        view.fills[static_cast<std::size_t>(key)] = main.workbench.Keys().Fill(key);
+    PaintPicture(state, *main.keyboard, [&](QPainter& painter) { PaintKeyboard(painter, view); });
+}
+BENCHMARK(PaintKeys)->Unit(benchmark::kMicrosecond);
+
+QString DataFile(const QTemporaryDir& folder, qint64 records, const QByteArray& restOfRecord) {
+    QFile file(folder.filePath(QStringLiteral("records.dat")));
     if (!file.open(QIODevice::WriteOnly))
         qFatal("cannot write the benchmark's file");
     for (qint64 i = 0; i < records; ++i)
-        file.write("Name" + QByteArray::number(i) + "\r\nalt, other\r\nsfx\r\n43\r\n");
+        file.write("Name" + QByteArray::number(i) + "\r\n" + restOfRecord + "\r\n");
     return file.fileName();
 }
 
-void ReadCatalogue(benchmark::State& state) {
+const QByteArray restOfChord("alt, other\r\nsfx\r\n43");
+
+void ReadCatalogue(benchmark::State& state, TextTable (*builtIn)(),
+                   const QByteArray& restOfRecord) {
     const QTemporaryDir folder;
-    const QString path = ChordsFile(folder, state.range(0));
+    const QString path = DataFile(folder, state.range(0), restOfRecord);
     for (auto _ : state) {
-        TextTable types = BuiltInChordTypes();
-        types.AppendDataFile(path);
-        benchmark::DoNotOptimize(types.Count());
+        TextTable table = builtIn();
+        table.AppendDataFile(path);
+        benchmark::DoNotOptimize(table.Count());
     }
-    state.SetComplexityN(state.range(0));
 }
-BENCHMARK(ReadCatalogue)->Arg(50)->Arg(10'000)->Arg(1'000'000)->Complexity(benchmark::oN);
+
+void Sizes(benchmark::internal::Benchmark* reading) {
+    reading->Arg(50)->Arg(10'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK_CAPTURE(ReadCatalogue, chords, &BuiltInChordTypes, restOfChord)->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadCatalogue, scales, &BuiltInScales, "1,3,5,6,8,10,12")->Apply(Sizes);
+BENCHMARK_CAPTURE(ReadCatalogue, tunings, &BuiltInTunings, "E,B,G,D,A,E")->Apply(Sizes);
 
 void Recognise(benchmark::State& state) {
     const QTemporaryDir folder;
     TextTable types = BuiltInChordTypes();
-    types.AppendDataFile(ChordsFile(folder, state.range(0)));
+    types.AppendDataFile(DataFile(folder, state.range(0), restOfChord));
     for (auto _ : state)
         benchmark::DoNotOptimize(NameChord({0, 1, 2, 3}, types)); // In no entry.
 }
-BENCHMARK(Recognise)->Arg(50)->Arg(10'000)->Arg(1'000'000);
+BENCHMARK(Recognise)->Apply(Sizes);
+
+void FindByName(benchmark::State& state) {
+    const QTemporaryDir folder;
+    TextTable types = BuiltInChordTypes();
+    types.AppendDataFile(DataFile(folder, state.range(0), restOfChord));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(FindChordType(types, QStringLiteral("none")));
+}
+BENCHMARK(FindByName)->Apply(Sizes);
 
 } // namespace
 

@@ -21,6 +21,23 @@ public:
         return m_table.Field(1, index.row() + 1);
     }
 
+    // What typing in the list asks for, the next row that begins with the text, is found
+    // without making a text of each of a million rows.
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override {
+        const bool typed = flags == Qt::MatchFlags(Qt::MatchStartsWith | Qt::MatchWrap);
+        if (!start.isValid() || role != Qt::DisplayRole || hits != 1 || !typed)
+            return QAbstractListModel::match(start, role, value, hits, flags);
+        const QString text = value.toString();
+        const int rows = rowCount();
+        for (int i = 0; i < rows; ++i) {
+            const int row = (start.row() + i) % rows;
+            if (m_table.FieldStartsWith(1, row + 1, text))
+                return {index(row)};
+        }
+        return {};
+    }
+
 private:
     const TextTable& m_table;
 };

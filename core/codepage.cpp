@@ -6,6 +6,7 @@
 #include <QStringConverter>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -34,6 +35,22 @@ Converter Checked(Converter converter) {
     return converter;
 }
 
+#ifndef Q_OS_WIN
+// What each byte stands for. Opening a converter for each of a million names would cost far
+// more than the names.
+const std::array<char16_t, 256>& Characters() {
+    static const auto characters = [] {
+        std::array<char16_t, 256> made{};
+        for (std::size_t value = 0; value < made.size(); ++value) {
+            const QString text = Checked(Decoder()).decode(QByteArray(1, static_cast<char>(value)));
+            made[value] = text.front().unicode();
+        }
+        return made;
+    }();
+    return characters;
+}
+#endif
+
 } // namespace
 
 bool IsAscii(QByteArrayView bytes) {
@@ -41,10 +58,17 @@ bool IsAscii(QByteArrayView bytes) {
 }
 
 QString FromAnsi(QByteArrayView bytes) {
-    // Most fields are plain ASCII; opening a converter for each would cost more than the text.
     if (IsAscii(bytes))
         return QString::fromLatin1(bytes);
+#ifdef Q_OS_WIN
     return Checked(Decoder()).decode(bytes);
+#else
+    const auto& characters = Characters();
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [&](char byte) { return QChar(characters[static_cast<unsigned char>(byte)]); });
+    return text;
+#endif
 }
 
 QByteArray ToAnsi(QStringView text) {

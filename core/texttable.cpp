@@ -82,6 +82,17 @@ bool TextTable::FieldContains(int field, int entry, QStringView text) const {
                           : FromAnsi(bytes).contains(text);
 }
 
+bool TextTable::FieldStartsWith(int field, int entry, QStringView text) const {
+    CheckAddress(field, entry);
+    if (field > m_linesPerRecord)
+        return text.isEmpty();
+    if (entry <= BuiltInCount())
+        return BuiltInField(field, entry).startsWith(text, Qt::CaseInsensitive);
+    const QByteArrayView bytes = FileField(field, entry);
+    return IsAscii(bytes) ? QLatin1StringView(bytes).startsWith(text, Qt::CaseInsensitive)
+                          : FromAnsi(bytes).startsWith(text, Qt::CaseInsensitive);
+}
+
 void TextTable::CheckAddress(int field, int entry) const {
     if (entry < 1 || entry > Count())
         CheckIndex(entry, 1, Count(), m_name);

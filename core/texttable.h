@@ -38,6 +38,9 @@ public:
     bool FieldEquals(int field, int entry, QStringView text) const;
     bool FieldContains(int field, int entry, QStringView text) const;
 
+    // Whether the field begins with the text, in whatever case.
+    bool FieldStartsWith(int field, int entry, QStringView text) const;
+
 private:
     int BuiltInCount() const;
     void CheckAddress(int field, int entry) const;

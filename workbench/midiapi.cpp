@@ -78,8 +78,7 @@ public:
         if (!m_ended.empty())
             std::this_thread::sleep_for(lastLook);
         DeletePlayers(m_ended.size());
-        if (m_driver != nullptr)
-            m_fluid.delete_fluid_audio_driver(m_driver);
+        LetGoOfDevice();
         if (m_synth != nullptr)
             m_fluid.delete_fluid_synth(m_synth);
         m_fluid.delete_fluid_settings(m_settings);
@@ -87,6 +86,8 @@ public:
 
     bool Open(const QByteArray& midi) {
         DeleteEndedPlayers();
+        if (m_driver == nullptr && !OpenDevice())
+            return false;
         m_player = m_fluid.new_fluid_player(m_synth);
         if (m_player == nullptr)
             return false;
@@ -106,6 +107,15 @@ public:
         m_ended.push_back({std::exchange(m_player, nullptr), Time::now() + lastLook});
         QTimer::singleShot(lastLook + 1ms, &m_context, [this] { DeleteEndedPlayers(); });
     }
+
+    // Gives the device back; the next note opens it again.
+    void LetGoOfDevice() {
+        if (m_driver != nullptr)
+            m_fluid.delete_fluid_audio_driver(m_driver);
+        m_driver = nullptr;
+    }
+
+    bool HoldsDevice() const { return m_driver != nullptr; }
 
 private:
     using Time = std::chrono::steady_clock;
@@ -184,12 +194,21 @@ private:
     QObject m_context;               // While it is there, so is this object.
 };
 
-MidiAPI::MidiAPI(QString appPath) : m_appPath(std::move(appPath)) {}
+MidiAPI::MidiAPI(QString appPath, std::chrono::milliseconds ringing)
+    : m_appPath(std::move(appPath)) {
+    m_ringing.setSingleShot(true);
+    m_ringing.setInterval(ringing);
+    QObject::connect(&m_ringing, &QTimer::timeout, &m_ringing, [this] {
+        if (m_synthesiser)
+            m_synthesiser->LetGoOfDevice();
+    });
+}
 
 MidiAPI::~MidiAPI() = default;
 
 void MidiAPI::PlayMidiFile(const QString& fileName) {
     CloseMidiFile();
+    m_ringing.stop();
     m_currentMidiFile = fileName;
     const QByteArray midi = ReadMidiFile(fileName);
     if (!midi.isEmpty() && Wake())
@@ -197,9 +216,15 @@ void MidiAPI::PlayMidiFile(const QString& fileName) {
 }
 
 void MidiAPI::CloseMidiFile() {
-    if (m_midiOpen)
+    if (m_midiOpen) {
         m_synthesiser->Close();
+        m_ringing.start();
+    }
     m_midiOpen = false;
+}
+
+bool MidiAPI::HoldsDevice() const {
+    return m_synthesiser && m_synthesiser->HoldsDevice();
 }
 
 bool MidiAPI::Wake() {

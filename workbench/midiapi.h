@@ -4,13 +4,17 @@
 #include "workbench/sound.h"
 
 #include <QByteArray>
+#include <QTimer>
 
+#include <chrono>
 #include <memory>
 
 class MidiAPI : public MidiPlayer {
 public:
     // appPath: the program's folder, where a sound font of the user's own may lie.
-    explicit MidiAPI(QString appPath);
+    // ringing: how long after a note the device is kept. An open device asks for samples
+    // thousands of times a minute, also for silence, so it is not kept for ever.
+    explicit MidiAPI(QString appPath, std::chrono::milliseconds ringing = std::chrono::seconds(10));
     ~MidiAPI() override;
 
     void PlayMidiFile(const QString& fileName) override;
@@ -18,6 +22,7 @@ public:
 
     const QString& CurrentMidiFile() const { return m_currentMidiFile; }
     bool MidiOpen() const { return m_midiOpen; }
+    bool HoldsDevice() const;
 
 private:
     class Synthesiser;
@@ -29,6 +34,7 @@ private:
     bool m_tried = false; // After a failure to open a device no note tries again.
     QString m_currentMidiFile;
     bool m_midiOpen = false;
+    QTimer m_ringing;
 };
 
 // The bytes of a MIDI file; empty for one that is missing, cut off, no MIDI file or too large

@@ -241,6 +241,9 @@ void CataloguesTest::ComparingFields() {
     QVERIFY(types.FieldContains(ChordType::AltNames, 51, u"плюс,"));
     QVERIFY(!types.FieldContains(ChordType::AltNames, 51, u"минус,"));
     QVERIFY(types.FieldContains(ChordType::AltNames, 2, u"min,"));
+    QVERIFY(types.FieldStartsWith(ChordType::Name, 51, u"мО"));
+    QVERIFY(!types.FieldStartsWith(ChordType::Name, 51, u"ой"));
+    QVERIFY(types.FieldStartsWith(ChordType::AltNames, 2, u"M, MIN"));
 }
 
 void CataloguesTest::ManyRecords() {

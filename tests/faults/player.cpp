@@ -1,5 +1,6 @@
-// player FOLDER FILE [NOTES]: plays a file a few times as the program does; says after each start
-// whether it sounds.
+// player FOLDER FILE [NOTES | rests]: plays a file a few times as the program does; says after
+// each start whether it sounds. With "rests" the notes are far apart, and it also says whether
+// the device is kept between.
 #include "workbench/fluidsynth.h"
 #include "workbench/midiapi.h"
 
@@ -8,17 +9,41 @@
 
 #include <cstdio>
 
-int main(int argc, char** argv) {
-    if (argc < 3)
-        return 2;
-    const QCoreApplication application(argc, argv);
-    const int notes = argc > 3 ? QByteArray(argv[3]).toInt() : 20;
-    MidiAPI midi(QFile::decodeName(argv[1]));
+namespace {
+
+void PlayInTurn(MidiAPI& midi, const QString& file, int notes) {
     for (int note = 0; note < notes; ++note) {
-        midi.PlayMidiFile(QFile::decodeName(argv[2]));
+        midi.PlayMidiFile(file);
         std::puts(midi.MidiOpen() ? "sounds" : "silent");
         if (note % 2 == 0) // Otherwise the next note ends it.
             midi.CloseMidiFile();
     }
+}
+
+void PlayWithRests(MidiAPI& midi, const QString& file) {
+    for (int note = 0; note < 3; ++note) {
+        midi.PlayMidiFile(file);
+        QCoreApplication::processEvents();
+        std::puts(midi.MidiOpen() && midi.HoldsDevice() ? "sounds" : "silent");
+        midi.CloseMidiFile();
+        QCoreApplication::processEvents();
+        std::puts(midi.HoldsDevice() ? "kept" : "let go");
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    if (argc < 3)
+        return 2;
+    const QString file = QFile::decodeName(argv[2]);
+    const QByteArray how(argc > 3 ? argv[3] : "20");
+    const bool rests = how == "rests";
+    MidiAPI midi(QFile::decodeName(argv[1]), std::chrono::seconds(rests ? 0 : 10));
+    if (rests)
+        PlayWithRests(midi, file);
+    else
+        PlayInTurn(midi, file, how.toInt());
     std::puts(LoadFluidSynth() != nullptr ? "library" : "no library");
 }

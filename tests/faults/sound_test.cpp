@@ -48,6 +48,15 @@ private Q_SLOTS:
                  QStringList({QStringLiteral("sounds"), QStringLiteral("library")}));
     }
 
+    void TheDeviceIsLetGoOfWhereNoNoteFollows() {
+        if (FindSoundFont(m_folder->Path()).isEmpty())
+            QSKIP("There is no sound font.");
+        UseDevice(patientDevice);
+        QCOMPARE(Play(someNote, {QStringLiteral("rests")}),
+                 QStringList({QStringLiteral("sounds"), QStringLiteral("let go"),
+                              QStringLiteral("library")}));
+    }
+
     // The first note is on its way when the device fails; the others find it so.
     void ADeviceThatFailsInMidNote() {
         UseDevice(failingDevice);
@@ -60,7 +69,7 @@ private Q_SLOTS:
             QSKIP("There is no sound font.");
         UseDevice(patientDevice);
         m_environment.insert(QStringLiteral("MALLOC_PERTURB_"), QStringLiteral("85"));
-        QCOMPARE(Play(someNote, 2000),
+        QCOMPARE(Play(someNote, {QStringLiteral("2000")}),
                  QStringList({QStringLiteral("sounds"), QStringLiteral("library")}));
     }
 
@@ -138,10 +147,10 @@ private:
     }
 
     // What the player said, each once; a crash where it did not end well.
-    QStringList Play(const QString& file, int notes = 20) {
+    QStringList Play(const QString& file, const QStringList& further = {}) {
         QProcess player;
         player.setProcessEnvironment(m_environment);
-        player.start(QStringLiteral(PLAYER), {m_folder->Path(), file, QString::number(notes)});
+        player.start(QStringLiteral(PLAYER), QStringList{m_folder->Path(), file} + further);
         const bool ended = player.waitForFinished();
         m_messages = player.readAllStandardError();
         if (!ended || player.exitStatus() != QProcess::NormalExit || player.exitCode() != 0)

@@ -1,0 +1,84 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, runs every benchmark and prints one table in Markdown:
+# processor time, of several runs the shortest, unless a row says otherwise.
+set -euo pipefail
+cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
+source packaging/setup.sh
+install_missing build run test bench >&2
+build_preset release >&2
+source bench/desktop.sh
+bench=build/release/bench
+figures=$desktop/figures # Lines of a name and a figure; times are microseconds.
+
+# run SCALE PROGRAM [FILTER]: the benchmarks' names get the screen's scale in front.
+run() {
+    QT_SCALE_FACTOR=$1 "$bench/$2" --benchmark_format=csv --benchmark_repetitions=3 \
+        --benchmark_filter="${3:-.}" 2>/dev/null |
+        awk -F, -v scale="$1x" '
+            BEGIN {unit["ns"] = 0.001; unit["us"] = 1; unit["ms"] = 1000}
+            {gsub(/"/, "")}
+            $5 in unit && $1 !~ /_(mean|median|stddev|cv)$/ {
+                time = $4 * unit[$5]
+                if (!($1 in least) || time < least[$1]) least[$1] = time
+            }
+            END {for (name in least) print scale name, least[name]}'
+}
+
+start_desktop
+{
+    bench/start.sh
+    bench/idle.sh
+    "$bench/sound_notes" build/release/tonvik/ | awk '{print $1, /Note/ ? $2 * 1000 : $2}'
+    run 1 workbench_bench
+    run 2 workbench_bench Paint
+    run 4 workbench_bench Paint
+    run 1 windows_bench
+    run 1 lists_bench
+} >>"$figures"
+
+# A row: what, the names of its figures, their unit, the goal.
+awk -F'|' -v figures="$figures" '
+    BEGIN {
+        while ((getline line < figures) > 0) {
+            split(line, part, " ")
+            figure[part[1]] = part[2]
+        }
+        divisor["µs"] = 1; divisor["ms"] = 1000; divisor[""] = 1
+        print "| what | figure | goal |"
+        print "|---|---|---|"
+    }
+    {
+        count = split($2, names, " ")
+        text = ""
+        for (i = 1; i <= count; ++i) {
+            shown = "–"
+            if (names[i] in figure) shown = sprintf("%.3g", figure[names[i]] / divisor[$3])
+            text = text (i > 1 ? " / " : "") shown
+        }
+        printf "| %s | %s%s | %s |\n", $1, text, ($3 == "" ? "" : " " $3), $4
+    }' <<'ROWS'
+start to the first complete paint, over a bare window (elapsed)|StartRatio||1.3, at most 2
+memory then, over a bare window|MemoryRatio||1.3, at most 1.6
+chord spelled and fingered|1xSpellAndFinger|µs|2
+chord change to the end of the paint, screen scale 1 / 2 / 4|1xChordChangeToPaint 2xChordChangeToPaint 4xChordChangeToPaint|ms|1 at scale 1
+scale change to the end of the paint, screen scale 1 / 2 / 4|1xScaleChangeToPaint 2xScaleChangeToPaint 4xScaleChangeToPaint|ms|1 at scale 1
+fretboard painted anew, screen scale 1 / 2 / 4|1xPaintFretboard 2xPaintFretboard 4xPaintFretboard|ms|
+keyboard painted anew, screen scale 1 / 2 / 4|1xPaintKeys 2xPaintKeys 4xPaintKeys|ms|
+`chords.dat` read, 50 / 10,000 / 1,000,000 records|1xReadCatalogue/chords/50 1xReadCatalogue/chords/10000 1xReadCatalogue/chords/1000000|ms|linear
+`scales.dat` read, 50 / 10,000 / 1,000,000 records|1xReadCatalogue/scales/50 1xReadCatalogue/scales/10000 1xReadCatalogue/scales/1000000|ms|linear
+`tunings.dat` read, 50 / 10,000 / 1,000,000 records|1xReadCatalogue/tunings/50 1xReadCatalogue/tunings/10000 1xReadCatalogue/tunings/1000000|ms|linear
+chord named among 50 / 10,000 / 1,000,000 more types|1xRecognise/50 1xRecognise/10000 1xRecognise/1000000|ms|linear
+type looked for that none of these is called|1xFindByName/50 1xFindByName/10000 1xFindByName/1000000|ms|linear
+start with three files of 1,000,000 records (elapsed)|StartMillion|ms|linear
+further memory then, over the size of the files|MemoryMillion||3
+page down among 1,000,000 chord types / scales / tunings|1xPageDown/0 1xPageDown/1 1xPageDown/2|ms|100
+to the end or the beginning of these|1xEndAndHome/0 1xEndAndHome/1 1xEndAndHome/2|ms|100
+a letter typed that none of these begins with|1xSearchByLetter/0 1xSearchByLetter/1 1xSearchByLetter/2|ms|100
+settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|ms|30 / 150
+sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
+1,000 codes written|1xWriteThousandCodes|ms|50
+first note begun (elapsed)|FirstNote|ms|150
+later notes begun, median (elapsed)|LaterNote|ms|15
+note after a rest begun (elapsed)|NoteAfterARest|ms|150
+wake-ups a minute at rest, before / after a first note|WakeUpsBeforeANote WakeUpsAfterANote||0
+ROWS
