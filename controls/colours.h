@@ -13,6 +13,7 @@ constexpr QColor fieldStripe(0xF4, 0xEF, 0xE4);
 constexpr QColor text(0x22, 0x1D, 0x18);
 constexpr QColor quietText(0x5E, 0x54, 0x49); // Captions of frames, hints: 6.5 to 1 on window.
 constexpr QColor mutedText(0x70, 0x67, 0x5C); // Disabled controls, muted strings.
+constexpr QColor frame(0xF3, 0xEE, 0xE5);     // Inside a frame.
 constexpr QColor line(0xCD, 0xC2, 0xB0);      // Frames and dividers.
 constexpr QColor buttonFace(0xEF, 0xE8, 0xDB);
 constexpr QColor buttonLight(0xFF, 0xFF, 0xFF);

@@ -83,13 +83,20 @@ void PaintSheet(QPainter& painter, const QRectF& area) {
     painter.drawPath(sheet);
 }
 
-void PaintText(QPainter& painter, const QString& text, const QRectF& area) {
-    QFont font = painter.font();
-    font.setPixelSize(static_cast<int>(area.height()));
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(Colours::selection);
-    painter.drawText(area, Qt::AlignCenter, text);
+// Drawn, not written: a font of its own would have to be loaded for it.
+void PaintQuestionMark(QPainter& painter, QPointF centre, double height) {
+    painter.save();
+    painter.translate(centre);
+    painter.scale(height / 10, height / 10);
+    QPainterPath hook(QPointF(-2.6, -2.6));
+    hook.cubicTo(-2.4, -5.6, 2.7, -5.6, 2.7, -2.4);
+    hook.cubicTo(2.7, -0.4, 0, -0.2, 0, 2);
+    painter.setPen({Colours::selection, 1.9, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(hook);
+    Fill(painter);
+    painter.drawRect(QRectF(-0.95, 3.1, 1.9, 1.9));
+    painter.restore();
 }
 
 void PaintFindPicture(QPainter& painter) {
@@ -101,13 +108,13 @@ void PaintFindPicture(QPainter& painter) {
 
 void PaintNameChord(QPainter& painter) {
     PaintKeys(painter, {2.5, 9, 13, 12.5});
-    PaintText(painter, QStringLiteral("?"), {13, 1, 11, 14});
+    PaintQuestionMark(painter, {18.5, 8}, 8);
 }
 
 void PaintHelp(QPainter& painter) {
     Stroke(painter);
     painter.drawEllipse(QPointF(12, 12), 9, 9);
-    PaintText(painter, QStringLiteral("?"), {5, 5, 14, 14});
+    PaintQuestionMark(painter, {12, 12}, 10);
 }
 
 void PaintSettings(QPainter& painter) {

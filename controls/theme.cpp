@@ -3,6 +3,7 @@
 #include "controls/colours.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -10,7 +11,9 @@
 
 namespace {
 
-// The toolkit's own style, whose default button looks the same with the focus and without.
+// The toolkit's own style but for two things: its default button looks the same with the focus
+// and without, and its frames are pictures, for which a program without any other would have to
+// load the readers of all kinds of pictures.
 class Style : public QProxyStyle {
 public:
     Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -24,6 +27,21 @@ public:
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(QPen(Colours::focus, 2));
         painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 2, 2);
+        painter->restore();
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        if (element != PE_FrameGroupBox)
+            return QProxyStyle::drawPrimitive(element, option, painter, widget);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Colours::line);
+        painter->setBrush(Colours::frame);
+        const auto* box = qobject_cast<const QGroupBox*>(widget);
+        const bool titled = box != nullptr && !box->title().isEmpty();
+        const int above = titled ? option->fontMetrics.height() + 3 : 3;
+        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, above + 0.5, -0.5, -0.5), 3, 3);
         painter->restore();
     }
 };

@@ -96,7 +96,9 @@ PicturePart frmMain::KeyPart(int key) {
 void frmMain::ShowHint() {
     QLabel& label = *panel->lblHint;
     const QString hint = Hint();
-    label.setText(label.fontMetrics().elidedText(hint, Qt::ElideRight, label.width()));
+    label.setText(hint.isEmpty()
+                      ? hint // No font is loaded for nothing.
+                      : label.fontMetrics().elidedText(hint, Qt::ElideRight, label.width()));
     label.setToolTip(label.text() == hint ? QString() : hint);
     label.setAccessibleName(hint);
 }

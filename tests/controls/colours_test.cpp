@@ -51,6 +51,8 @@ void ColoursTest::TextsCanBeRead_data() {
     QTest::newRow("the selected row") << selectionText << selection;
     QTest::newRow("buttons") << Colours::text << buttonFace;
     QTest::newRow("what is disabled") << mutedText << window;
+    QTest::newRow("captions in frames") << Colours::text << frame;
+    QTest::newRow("what is disabled in frames") << mutedText << frame;
     QTest::newRow("disabled list rows") << mutedText << field;
     QTest::newRow("disabled buttons") << mutedText << buttonFace;
     QTest::newRow("hints in fields") << quietText << field;
