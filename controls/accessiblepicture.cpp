@@ -92,8 +92,11 @@ QAccessible::State AccessiblePart::state() const {
 // The first action goes by the name that every screen reader knows, the others by their own.
 QStringList AccessiblePart::actionNames() const {
     QStringList names;
-    for (const PartAction& action : Part().actions)
+    const PicturePart part = Part();
+    for (const PartAction& action : part.actions)
         names += names.isEmpty() ? pressAction() : action.name;
+    if (part.checked)
+        names += toggleAction(); // The same as a press; some systems know only this for a box.
     return names + QStringList{setFocusAction()};
 }
 
@@ -112,7 +115,8 @@ void AccessiblePart::doAction(const QString& name) {
         return;
     }
     const PicturePart part = Part();
-    const auto index = actionNames().indexOf(name);
+    const bool toggle = part.checked && name == toggleAction();
+    const auto index = actionNames().indexOf(toggle ? pressAction() : name);
     if (index >= 0)
         Application::Guard(part.actions[static_cast<std::size_t>(index)].run);
 }

@@ -18,6 +18,7 @@ void Prepare(QMessageBox& box, const RunTimeError& error, Tongue tongue) {
     box.setObjectName(QStringLiteral("RunTimeError"));
     box.setIcon(QMessageBox::Critical);
     box.setWindowTitle(reportTitle.In(tongue));
+    box.setTextFormat(Qt::PlainText);
     box.setText(error.What().In(tongue));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }

@@ -21,6 +21,14 @@ void ListBox::SetTexts(const QStringList& texts) {
         setModel(new QStringListModel(texts, this));
 }
 
+void ListBox::AddText(const QString& text) {
+    auto* own = qobject_cast<QStringListModel*>(model());
+    if (own == nullptr)
+        return SetTexts({text});
+    own->insertRow(RowCount());
+    own->setData(own->index(RowCount() - 1), text);
+}
+
 int ListBox::RowCount() const {
     return model()->rowCount();
 }

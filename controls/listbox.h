@@ -13,6 +13,9 @@ public:
     // Shows texts of its own instead of a model that was set.
     void SetTexts(const QStringList& texts);
 
+    // Adds a row of its own after the others; the selection stays.
+    void AddText(const QString& text);
+
     int RowCount() const;
 
     // -1 while nothing is selected.

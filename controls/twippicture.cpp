@@ -67,12 +67,14 @@ void TwipPicture::leaveEvent(QEvent*) {
 
 void TwipPicture::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    TellParts();
+    // After the toolkit has told that the picture has the focus.
+    QMetaObject::invokeMethod(this, &TwipPicture::TellParts, Qt::QueuedConnection);
     Q_EMIT FocusMoved();
 }
 
 void TwipPicture::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
+    TellParts();
     Q_EMIT FocusMoved();
 }
 

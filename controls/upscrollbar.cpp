@@ -43,4 +43,8 @@ void UpScrollBar::TurnStep(int action) {
         setSliderPosition(value() - singleStep());
     else if (action == SliderSingleStepSub)
         setSliderPosition(value() + singleStep());
+    else if (action == SliderPageStepAdd)
+        setSliderPosition(value() - pageStep());
+    else if (action == SliderPageStepSub)
+        setSliderPosition(value() + pageStep());
 }

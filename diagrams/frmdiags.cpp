@@ -15,11 +15,16 @@
 
 #include <cmath>
 
+void ClickList::mousePressEvent(QMouseEvent* event) {
+    ListBox::mousePressEvent(event);
+    m_pressedRow = indexAt(event->position().toPoint()).row();
+}
+
 void ClickList::mouseReleaseEvent(QMouseEvent* event) {
     ListBox::mouseReleaseEvent(event);
-    const QModelIndex pressed = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && pressed.isValid())
-        Q_EMIT Clicked(pressed.row());
+    const int row = indexAt(event->position().toPoint()).row();
+    if (event->button() == Qt::LeftButton && row >= 0 && row == m_pressedRow)
+        Q_EMIT Clicked(row);
 }
 
 void ClickList::keyPressEvent(QKeyEvent* event) {
@@ -43,7 +48,7 @@ frmDiags::frmDiags(AppState& state, std::function<BoardFingering()> board)
 
 void frmDiags::cmdAdd_Click() {
     m_rows += FingeringCode(m_board());
-    lstMain->SetTexts(m_rows);
+    lstMain->AddText(m_rows.last());
     lstMain->scrollToBottom();
 }
 

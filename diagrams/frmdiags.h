@@ -22,8 +22,12 @@ Q_SIGNALS:
     void Clicked(int row);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    int m_pressedRow = -1;
 };
 
 class frmDiags : public QWidget {

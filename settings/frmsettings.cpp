@@ -70,10 +70,10 @@ void frmSettings::LoadDialogSettings() {
         Text1[i]->setText(strings.notes[i]);
         Text1[i]->setProperty("Tag", strings.soundNumbers[i]);
         const int position = NoteIndexOf(strings.notes[i]);
-        CheckIndex(
-            position, VScroll1[i]->minimum(), VScroll1[i]->maximum(),
-            {QStringLiteral("нота «%1» струны %2").arg(strings.notes[i]).arg(index + 1),
-             QStringLiteral("the note “%1” of string %2").arg(strings.notes[i]).arg(index + 1)});
+        const QString number = QString::number(index + 1);
+        CheckIndex(position, VScroll1[i]->minimum(), VScroll1[i]->maximum(),
+                   {QStringLiteral("нота «%1» струны %2").arg(strings.notes[i], number),
+                    QStringLiteral("the note “%1” of string %2").arg(strings.notes[i], number)});
         VScroll1[i]->setValue(position);
     }
 }

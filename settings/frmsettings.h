@@ -80,7 +80,6 @@ private:
     void ApplyTongue();
     void UseStandardTuning();
     void EnableStrings(bool enable);
-    void SetNote(int index, const QString& note);
     void SetSoundNumbers();
     StringLayout CheckedLayout() const;
     QString ChosenLanguage() const;

@@ -25,6 +25,18 @@ void SetColour(QLabel* label, const QColor& colour) {
     label->setPalette(palette);
 }
 
+// A text from a file as it stands, whatever it looks like.
+void Tell(const QString& title, const QString& text, QWidget* parent) {
+    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+QString PlainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped())
+                                     : text;
+}
+
 void SetStruckOut(QLabel* label, bool struckOut) {
     QFont font = label->font();
     if (font.strikeOut() == struckOut)
@@ -87,9 +99,7 @@ void frmMain::lstType_Click(int row) {
 void frmMain::lstType_DblClick() {
     const QString names = m_workbench.AlternativeNames();
     const Phrase title{QStringLiteral("Аккорд:"), QStringLiteral("Chord:")};
-    QMessageBox(QMessageBox::Information, title.In(m_state.InterfaceTongue()), names,
-                QMessageBox::Ok, this)
-        .exec();
+    Tell(title.In(m_state.InterfaceTongue()), names, this);
 }
 
 void frmMain::lstLad_Click(int row) {
@@ -109,9 +119,7 @@ void frmMain::cmdFind_Click() {
     if (const auto row = FindChordType(m_state.ChordTypes, txtFind->text()))
         lstType->SelectRow(*row);
     else
-        QMessageBox(QMessageBox::Information, QStringLiteral("Find"),
-                    m_state.UiText.NoSuchChordType, QMessageBox::Ok, this)
-            .exec();
+        Tell(QStringLiteral("Find"), m_state.UiText.NoSuchChordType, this);
 }
 
 void frmMain::cmdFindChord_Click() {
@@ -172,7 +180,7 @@ void frmMain::ShowState() {
     panel->picStrings->TellParts();
     panel->picKeyboard->TellParts();
     lblChord->setText(m_workbench.ChordName());
-    lblChord->setToolTip(m_workbench.ChordHint());
+    lblChord->setToolTip(PlainToolTip(m_workbench.ChordHint()));
     lblKeys->setText(m_workbench.MarkedNames());
     lblNoS->setText(m_workbench.Missing().text);
     SetColour(lblNoS, m_workbench.Missing().rootMissing ? Colours::mark : Colours::normalText);

@@ -148,7 +148,7 @@ private:
     void ShowHighlights();
     void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
     void ShowHint();
-    QString Hint() const;
+    QString Hint();
 
     // What the pictures' parts are called and do.
     PictureParts FretboardParts();

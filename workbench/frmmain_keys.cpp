@@ -19,7 +19,9 @@ int ModifierMask(Qt::KeyboardModifiers modifiers) {
 } // namespace
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
+    // The list of an open drop-down is a window of its own and keeps its keys.
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
         const auto* press = static_cast<QKeyEvent*>(event);
         bool handled = true;
         Application::Guard(

@@ -33,7 +33,9 @@ PicturePart frmMain::StringPart(int row) {
                                 .muted = !string.enabled},
                                tongue);
     part.place = FretboardLayout::RowRect(row);
-    part.range = PartRange{fret, 0, FretboardLayout::fretColumns, [this, row](int chosen) {
+    // The automatic fingering may go beyond the fretboard.
+    const int highest = std::max<int>(FretboardLayout::fretColumns, fret);
+    part.range = PartRange{fret, 0, highest, [this, row](int chosen) {
                                const auto place = chosen > 0 ? std::optional(chosen) : std::nullopt;
                                DoQuietly([&] { m_workbench.PressString(row, place); });
                            }};
@@ -110,7 +112,7 @@ void frmMain::ShowNotice(const Phrase& notice) {
     QAccessible::updateAccessibility(&alert);
 }
 
-QString frmMain::Hint() const {
+QString frmMain::Hint() {
     const Tongue tongue = m_state.InterfaceTongue();
     const auto marked = m_workbench.Keys().Marked();
     if (m_pointed) {
@@ -123,5 +125,10 @@ QString frmMain::Hint() const {
         return m_notice;
     if (m_pointedKey || keyboard.hasFocus())
         return KeyHint(m_pointedKey.value_or(keyboard.FocusPart()), marked, tongue);
+    if (panel->picStrings->hasFocus()) {
+        const QString part =
+            FretboardParts().parts[static_cast<std::size_t>(panel->picStrings->FocusPart())].name;
+        return part.left(1).toUpper() + part.mid(1);
+    }
     return {};
 }

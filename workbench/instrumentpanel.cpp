@@ -91,8 +91,10 @@ void InstrumentPanel::Place() {
     QFont noteFont = font;
     noteFont.setBold(true);
     for (int row = 0; row < stringCount; ++row) {
-        place(Label4[static_cast<std::size_t>(row)], NoteLabel(row));
+        QLabel* label = Label4[static_cast<std::size_t>(row)];
+        noteFont.setStrikeOut(label->font().strikeOut()); // A muted string stays struck out.
+        place(label, NoteLabel(row));
         place(Label6[static_cast<std::size_t>(row)], NoteLabel(row));
-        Label4[static_cast<std::size_t>(row)]->setFont(noteFont);
+        label->setFont(noteFont);
     }
 }

@@ -216,10 +216,10 @@ void MidiAPI::PlayMidiFile(const QString& fileName) {
 }
 
 void MidiAPI::CloseMidiFile() {
-    if (m_midiOpen) {
+    if (m_midiOpen)
         m_synthesiser->Close();
+    if (HoldsDevice())
         m_ringing.start();
-    }
     m_midiOpen = false;
 }
 

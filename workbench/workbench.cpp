@@ -92,7 +92,7 @@ void Workbench::SwitchBarre() {
     } else {
         if (m_barreStringsRow < 0)
             throw RunTimeError(
-                {QStringLiteral("Баррэ: не выбрано, сколько струн оно прижимает (lstBarre)."),
+                {QStringLiteral("Барре: не выбрано, сколько струн оно прижимает (lstBarre)."),
                  QStringLiteral("Barre: how many strings it covers is not chosen (lstBarre).")});
         m_barre = BarreOfLists();
     }
