@@ -15,6 +15,18 @@
 
 #include <cmath>
 
+namespace {
+
+// The text character by character; toPlainText would make blanks of no-break spaces.
+QString SheetText(const QPlainTextEdit& edit) {
+    return edit.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+} // namespace
+
 void ClickList::mousePressEvent(QMouseEvent* event) {
     ListBox::mousePressEvent(event);
     m_pressedRow = indexAt(event->position().toPoint()).row();
@@ -25,6 +37,11 @@ void ClickList::mouseReleaseEvent(QMouseEvent* event) {
     const int row = indexAt(event->position().toPoint()).row();
     if (event->button() == Qt::LeftButton && row >= 0 && row == m_pressedRow)
         Q_EMIT Clicked(row);
+}
+
+void ClickList::mouseDoubleClickEvent(QMouseEvent* event) {
+    ListBox::mouseDoubleClickEvent(event);
+    m_pressedRow = -1; // A double click is one click.
 }
 
 void ClickList::keyPressEvent(QKeyEvent* event) {
@@ -154,7 +171,7 @@ bool frmDiags::Save() {
                                         QStringLiteral("Текстовый файл|*.txt"));
     if (path.isEmpty())
         return false;
-    WriteSheet(path, txtMain->toPlainText());
+    WriteSheet(path, SheetText(*txtMain));
     txtMain->document()->setModified(false);
     txtMain->setFocus();
     return true;

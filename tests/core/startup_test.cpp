@@ -2,7 +2,11 @@
 #include "controls/application.h"
 #include "core/mdlmain.h"
 #include "core/runtimeerror.h"
+#include "diagrams/frmdiags.h"
+#include "info/frmabout.h"
+#include "info/frmhelp.h"
 #include "info/frmsplash.h"
+#include "settings/frmsettings.h"
 #include "support/dialogs.h"
 
 #include <QDir>
@@ -24,6 +28,10 @@ private Q_SLOTS:
     void EmptyLanguageFile();
     void MissingLanguageFile();
     void OddSettings();
+    void SettingsForThisTimeOnly_data();
+    void SettingsForThisTimeOnly();
+    void ChordsAreCounted();
+    void DiagramsOfTheFretboard();
     void SplashAdvancesInFiveSteps();
 
 private:
@@ -146,6 +154,8 @@ void StartUpTest::LanguageFile() {
     QCOMPARE(window.lstLadBarre->count(), 15);
     QCOMPARE(window.lstLadBarre->itemText(14), QStringLiteral("15 t14"));
     QCOMPARE(window.lstLadBarre->currentIndex(), 0);
+    QCOMPARE(window.lstWhat->count(), 2);
+    QCOMPARE(window.lstTemp->count(), 2);
     QCOMPARE(window.lstWhat->itemText(0), QStringLiteral("t16"));
     QCOMPARE(window.lstWhat->currentText(), QStringLiteral("t15"));
     QCOMPARE(window.lstTemp->itemText(1), QStringLiteral("t18"));
@@ -195,6 +205,71 @@ void StartUpTest::OddSettings() {
     QCOMPARE(m_start->Window().findChild<QLabel*>(QStringLiteral("Label4(5)"))->property("Tag"),
              QStringLiteral("abc"));
     QCOMPARE(m_start->State().StringNotes[0], QStringLiteral("D"));
+}
+
+void StartUpTest::SettingsForThisTimeOnly_data() {
+    QTest::addColumn<int>("option");
+    QTest::addColumn<bool>("thinAtBottom");
+    QTest::newRow("standard, thin at top") << 0 << false;
+    QTest::newRow("standard, thin at bottom") << 1 << true;
+    QTest::newRow("custom, thin at top") << 2 << false;
+    QTest::newRow("custom, thin at bottom") << 3 << true;
+}
+
+void StartUpTest::SettingsForThisTimeOnly() {
+    QFETCH(const int, option);
+    QFETCH(const bool, thinAtBottom);
+    const QByteArray file("[Settings]\r\nUser=2\r\n");
+    Write(QStringLiteral("tonvik.ini"), file);
+    Start();
+    WhenModal<frmSettings>([option](frmSettings* dialog) {
+        dialog->Options[static_cast<std::size_t>(option)]->click();
+        dialog->Text1[0]->setText(QStringLiteral("D"));
+        dialog->Check1->setChecked(false);
+        dialog->cmdOK->click();
+    });
+    m_start->Window().cmdSettings->click();
+    QCOMPARE(m_start->State().ThinStringAtBottom, thinAtBottom);
+    QCOMPARE(Text(QStringLiteral("Label4(%1)").arg(thinAtBottom ? 0 : 5)), QStringLiteral("D"));
+    QCOMPARE(Text(QStringLiteral("Label4(%1)").arg(thinAtBottom ? 1 : 4)), QStringLiteral("B"));
+    QCOMPARE(Bytes(QStringLiteral("tonvik.ini")), file);
+}
+
+void StartUpTest::ChordsAreCounted() {
+    Write(QStringLiteral("chords.dat"), "mine\r\n\r\nx\r\n45");
+    Write(QStringLiteral("help.dat"), "help");
+    Start();
+    WhenModal<frmHelp>([](frmHelp* help) {
+        WhenModal<frmAbout>([](frmAbout* about) {
+            QVERIFY(about->findChild<QLabel*>(QStringLiteral("Label7"))
+                        ->text()
+                        .endsWith(QStringLiteral(" 612"))); // 12 roots, 51 types.
+            about->close();
+        });
+        help->Command1->click();
+        help->close();
+    });
+    m_start->Window().cmdHelp->click();
+}
+
+void StartUpTest::DiagramsOfTheFretboard() {
+    Start();
+    frmMain& window = m_start->Window();
+    window.cmdNewDiag->click();
+    const frmDiags* sheet = nullptr;
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (const auto* found = qobject_cast<const frmDiags*>(widget); found && found->isVisible())
+            sheet = found;
+    QVERIFY(sheet != nullptr);
+    const auto added = [sheet] {
+        sheet->cmdAdd->click();
+        return sheet->lstMain->RowText(sheet->lstMain->RowCount() - 1);
+    };
+    QCOMPARE(added(), QStringLiteral("C - 010230"));
+    window.picStrings_MouseDown(Qt::RightButton, {});
+    QCOMPARE(added(), QStringLiteral("C - 000000"));
+    window.Label3_Click(4);
+    QVERIFY(added().startsWith(QStringLiteral("C - Б5/")));
 }
 
 void StartUpTest::SplashAdvancesInFiveSteps() {

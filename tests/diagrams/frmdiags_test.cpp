@@ -27,6 +27,8 @@ private Q_SLOTS:
     void RemovingNothing();
     void ClearingAsks_data();
     void ClearingAsks();
+    void AddingKeepsTheSelection();
+    void OnlyAClickOnOneRowInserts();
     void WritingTheList();
     void ClickingARow();
     void Dashes_data();
@@ -204,8 +206,39 @@ void FrmDiagsTest::ClearingAsks() {
     QCOMPARE(Text(), QStringLiteral("text"));
 }
 
+void FrmDiagsTest::AddingKeepsTheSelection() {
+    Click(m_sheet->cmdAdd);
+    Click(m_sheet->cmdAdd);
+    m_sheet->lstMain->SelectRow(0);
+    Click(m_sheet->cmdAdd);
+    QCOMPARE(m_sheet->lstMain->Row(), 0);
+    Click(m_sheet->cmdDel);
+    QCOMPARE(m_sheet->lstMain->RowCount(), 2);
+}
+
+void FrmDiagsTest::OnlyAClickOnOneRowInserts() {
+    Click(m_sheet->cmdAdd);
+    Click(m_sheet->cmdAdd);
+    const ClickList* list = m_sheet->lstMain;
+    const auto centre = [list](int row) {
+        return list->visualRect(list->model()->index(row, 0)).center();
+    };
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, centre(0));
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, centre(1));
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, {5, list->viewport()->height() - 5});
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, centre(1));
+    QCOMPARE(Text(), QString());
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, centre(0));
+    const QString once = Text();
+    QVERIFY(!once.isEmpty());
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, centre(0)); // The second press...
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, centre(0));
+    QCOMPARE(Text(), once); // ...of one double click.
+}
+
 void FrmDiagsTest::WritingTheList() {
     m_sheet->txtMain->setPlainText(QStringLiteral("a\nb"));
+    m_sheet->txtMain->selectAll();
     Click(m_sheet->cmdMake);
     QCOMPARE(Text(), QStringLiteral("a\nb")); // An empty list inserts nothing.
     Click(m_sheet->cmdAdd);
@@ -383,6 +416,9 @@ void FrmDiagsTest::SavingAFile_data() {
     QTest::newRow("an empty sheet is a line end") << QString() << QByteArray("\r\n");
     QTest::newRow("lines") << QStringLiteral("a\nb") << QByteArray("a\r\nb\r\n");
     QTest::newRow("Cyrillic") << QStringLiteral("Б") << QByteArray("\xC1\r\n");
+    QTest::newRow("a no-break space") << QStringLiteral("a\u00A0b")
+                                      << QByteArray("a\xA0"
+                                                    "b\r\n");
 }
 
 void FrmDiagsTest::SavingAFile() {

@@ -28,6 +28,11 @@ void PlayWithRests(MidiAPI& midi, const QString& file) {
         midi.CloseMidiFile();
         QCoreApplication::processEvents();
         std::puts(midi.HoldsDevice() ? "kept" : "let go");
+        midi.PlayMidiFile(file);
+        midi.PlayMidiFile(file + QStringLiteral(".gone")); // The last note has no file.
+        midi.CloseMidiFile();
+        QCoreApplication::processEvents();
+        std::puts(midi.HoldsDevice() ? "kept" : "let go");
     }
 }
 

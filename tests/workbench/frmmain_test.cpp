@@ -1,6 +1,7 @@
 // The main window, driven by real mouse events.
 #include "controls/application.h"
 #include "controls/colours.h"
+#include "controls/upscrollbar.h"
 #include "core/runtimeerror.h"
 #include "support/dialogs.h"
 #include "support/mainwindow.h"
@@ -52,6 +53,10 @@ private Q_SLOTS:
     void Handles();
     void MutedStrings();
     void MissingRootIsRed();
+    void NothingIsMissingWithoutMarks();
+    void AnOpenDropDownKeepsItsKeys();
+    void TheGrooveMovesTheBarTowardsTheClick();
+    void AMutedStringStaysStruckOut();
     void ChoosingTheBarreFretAgain();
     void ScrollBarWritesTheString();
     void Transfer();
@@ -267,6 +272,11 @@ void FrmMainTest::BarreIsDragged() {
     const auto marks = m_main->workbench.Row(1).mark;
     m_main->Press(m_main->board, {247, 30}); // Anywhere in its column.
     QCOMPARE(m_main->workbench.Row(1).mark, marks);
+    m_main->Release(m_main->board, {247, 30});
+    const QString note = m_main->Text(QStringLiteral("Label4"), 1);
+    m_main->Press(m_main->board, {247, FretboardLayout::StringY(1)}); // Also on a string.
+    QCOMPARE(m_main->workbench.Row(1).mark, marks);
+    QCOMPARE(m_main->Text(QStringLiteral("Label4"), 1), note);
     m_main->Move(m_main->board, {247 + 450, 30});
     QCOMPARE(m_main->window.lstLadBarre->currentIndex(), 1);
     QCOMPARE(m_main->workbench.ShownBarre()->fret, 2);
@@ -380,6 +390,59 @@ void FrmMainTest::MissingRootIsRed() {
     QCOMPARE(m_main->Colour(QStringLiteral("lblNoS")), Colours::mark);
     m_main->ClickRow(m_main->window.lstType, 0);
     QCOMPARE(m_main->Colour(QStringLiteral("lblNoS")), Colours::normalText);
+}
+
+void FrmMainTest::NothingIsMissingWithoutMarks() {
+    MissingRootIsRed();
+    m_main->Click(m_main->keyboard, {1, 1}, Qt::RightButton);
+    for (const int key : {1, 4, 9, 11, 14, 19})
+        m_main->window.Do([&] { m_main->workbench.ToggleKey(key); });
+    QTest::mouseClick(m_main->window.Command1, Qt::LeftButton);
+    QCOMPARE(m_main->Colour(QStringLiteral("lblNoS")), Colours::mark);
+    m_main->Click(m_main->keyboard, {1, 1}, Qt::RightButton);
+    QTest::mouseClick(m_main->window.Command1, Qt::LeftButton);
+    QCOMPARE(m_main->Text(QStringLiteral("lblNoS")), QString());
+    QCOMPARE(m_main->Colour(QStringLiteral("lblNoS")), Colours::normalText);
+    QVERIFY(!m_main->window.lblNoS->autoFillBackground());
+}
+
+void FrmMainTest::AnOpenDropDownKeepsItsKeys() {
+    DropDown* list = m_main->window.lstLadBarre;
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Space);
+    QWidget* view = list->view();
+    QTRY_VERIFY(view->isVisible());
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Down);
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(list->currentIndex(), 2);
+    QVERIFY(!m_main->board->hasFocus());
+}
+
+void FrmMainTest::TheGrooveMovesTheBarTowardsTheClick() {
+    UpScrollBar bar(QStringLiteral("bar"), 0, 12);
+    bar.resize(20, 400);
+    bar.show();
+    bar.setValue(6);
+    const auto click = [&bar](int y) {
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() / 2, y));
+    };
+    click(60);
+    QCOMPARE(bar.value(), 7);
+    click(340);
+    QCOMPARE(bar.value(), 6);
+    click(4); // The upper arrow.
+    QCOMPARE(bar.value(), 7);
+}
+
+void FrmMainTest::AMutedStringStaysStruckOut() {
+    m_main->window.Label6_MouseDown(2, Qt::RightButton);
+    const auto* label = m_main->Find<QLabel>(QStringLiteral("Label4(2)"));
+    QVERIFY(label->font().strikeOut());
+    m_main->window.resize(m_main->window.size() + QSize(200, 150));
+    QCoreApplication::processEvents();
+    QVERIFY(label->font().strikeOut());
+    QVERIFY(!m_main->Find<QLabel>(QStringLiteral("Label4(1)"))->font().strikeOut());
 }
 
 void FrmMainTest::ChoosingTheBarreFretAgain() {

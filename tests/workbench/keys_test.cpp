@@ -86,6 +86,13 @@ void KeysTest::SoundKeys() {
     Key(Qt::Key_F6);
     QCOMPARE(m_main->midi.played.size(), 6);
     QCOMPARE(m_main->midi.played[1], QStringLiteral("strings/36.mid"));
+    for (const int pace : {0, 1}) // A whole second a note, then half a one.
+        for (const Qt::Key key : {Qt::Key_F5, Qt::Key_F6}) {
+            m_main->window.lstWhat->SelectRow(pace);
+            m_main->midi.times.clear();
+            Key(key);
+            QCOMPARE(m_main->midi.times[1] - m_main->midi.times[0], pace == 0 ? 1.0 : 0.5);
+        }
     m_main->midi.played.clear();
     m_main->window.lstTemp->SelectRow(1);
     m_main->clock.onWait = [this] {

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void BarreByKeyboard();
     void TheMenuKeyOffersWhatARightClickDoes();
     void TheFocusIsSeen();
+    void TheFocusedStringIsNamed();
+    void ToggleIsAPress();
     void NothingCoversTheBarre();
     void APointedFretShowsItsNote();
     void APointedKeyShowsItsNote();
@@ -280,6 +282,20 @@ void PicturePartsTest::APointedFretShowsItsNote() {
     QCOMPARE(m_main->board->grab().toImage(), before);
     m_main->Move(m_main->board, {480, 300}); // On a fret line no fret would be found.
     QCOMPARE(Hint(), QString());
+}
+
+void PicturePartsTest::TheFocusedStringIsNamed() {
+    m_main->board->setFocus();
+    m_main->board->MoveFocusTo(1);
+    QCOMPARE(Hint(), QStringLiteral("Струна 5, A, лад 3, C"));
+    m_main->board->MoveFocusTo(6);
+    QCOMPARE(Hint(), QStringLiteral("Барре, снято"));
+}
+
+void PicturePartsTest::ToggleIsAPress() {
+    const bool marked = m_main->workbench.Keys().IsMarked(2);
+    Act(m_main->keyboard, 2, QAccessibleActionInterface::toggleAction());
+    QCOMPARE(m_main->workbench.Keys().IsMarked(2), !marked);
 }
 
 void PicturePartsTest::APointedKeyShowsItsNote() {

@@ -31,6 +31,9 @@ private Q_SLOTS:
     void AlternativeNamesOfNothing();
     void Searching_data();
     void Searching();
+    void TheExactPassComesFirst();
+    void ATypeWithoutSuffix();
+    void ARepeatedDegreeKeepsItsMark();
     void Naming_data();
     void Naming();
     void NamingByTheLastOfEqualStructures();
@@ -191,6 +194,33 @@ void WorkbenchTest::Searching() {
     QFETCH(const QString, text);
     QFETCH(const int, row);
     QCOMPARE(FindChordType(m_state.ChordTypes, text).value_or(none), row);
+}
+
+void WorkbenchTest::TheExactPassComesFirst() {
+    AppendTypes("-\r\n\r\nx\r\n45"); // Among the other notations of an earlier type, too.
+    QCOMPARE(FindChordType(m_state.ChordTypes, QStringLiteral("-")).value_or(none), 50);
+}
+
+void WorkbenchTest::ATypeWithoutSuffix() {
+    AppendTypes("mine\r\n\r\n\r\n45");
+    m_bench->ChooseRoot(0, QStringLiteral("C"));
+    m_bench->ChooseType(50);
+    QCOMPARE(m_bench->ChordName(), QStringLiteral("C"));
+    m_bench->FindChord();
+    QCOMPARE(m_bench->ChordName(), QStringLiteral("C"));
+}
+
+void WorkbenchTest::ARepeatedDegreeKeepsItsMark() {
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("scales.dat")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("mine\r\n1,3,3");
+    file.close();
+    m_state.Scales.AppendDataFile(file.fileName());
+    m_bench->ChooseRoot(0, QStringLiteral("C"));
+    m_bench->ChooseScale(66, QStringLiteral("mine"));
+    m_bench->ClearKeyMarks(); // Red was kept as the colour to return to.
+    QCOMPARE(m_bench->Keys().Marked(), std::vector{2});
 }
 
 void WorkbenchTest::Naming_data() {
