@@ -3,6 +3,7 @@
 #include "core/runtimeerror.h"
 
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QStringListModel>
 
 ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent) {
@@ -86,9 +87,21 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT RowDoubleClicked(pressed.row());
 }
 
+void ListBox::focusInEvent(QFocusEvent* event) {
+    // The toolkit makes the first row current where none is; that chooses nothing yet.
+    const QScopedValueRollback takesFocus(m_takesFocus, true);
+    QListView::focusInEvent(event);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    if (Row() < 0) // The first key chooses the first row instead of moving on from it.
+        selectionModel()->clearCurrentIndex();
+    QListView::keyPressEvent(event);
+}
+
 void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QListView::currentChanged(current, previous);
-    if (current.isValid())
+    if (current.isValid() && !m_takesFocus)
         Q_EMIT RowChosen(current.row());
 }
 

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void KeysMoveTheSelection();
     void TypingFindsARow();
     void SelectingNothingTellsIt();
+    void TheFocusChoosesNothing();
 
 private:
     QPoint Centre(int row) const {
@@ -128,6 +129,19 @@ void ListBoxTest::SelectingNothingTellsIt() {
     m_list->SelectRow(-1);
     QCOMPARE(m_list->Row(), -1);
     QCOMPARE(m_chosen, std::vector{-1});
+}
+
+void ListBoxTest::TheFocusChoosesNothing() {
+    m_list->SelectRow(-1);
+    m_list->clearFocus();
+    m_chosen.clear();
+    m_list->setFocus(Qt::TabFocusReason);
+    QVERIFY(m_list->hasFocus());
+    QCOMPARE(m_list->Row(), -1);
+    QVERIFY(m_chosen.empty());
+    QTest::keyClick(m_list.get(), Qt::Key_Down);
+    QCOMPARE(m_list->Row(), 0);
+    QCOMPARE(m_chosen, std::vector{0});
 }
 
 QTEST_MAIN(ListBoxTest)
