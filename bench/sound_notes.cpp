@@ -1,7 +1,7 @@
 // How long the first note takes to start, how long a later one does and the first after a rest,
 // in milliseconds, and whether memory grows over 10,000 notes, in kilobytes. Run beside a sound
 // server; says no figure where nothing sounds.
-#include "workbench/midiapi.h"
+#include "sound/midiapi.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -3,10 +3,10 @@
 #include "core/chordtypes.h"
 #include "core/scales.h"
 #include "core/tunings.h"
+#include "music/spelling.h"
+#include "pictures/keyboardpainting.h"
+#include "pictures/neckpainting.h"
 #include "support/mainwindow.h"
-#include "workbench/keyboardpainting.h"
-#include "workbench/neckpainting.h"
-#include "workbench/spelling.h"
 
 #include <QPainter>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #include "core/language.h"
 
-#include "core/appstate.h"
+#include "core/mdlmain.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,135 +1,32 @@
 #include "core/mdlmain.h"
 
-#include "controls/application.h"
-#include "controls/handle.h"
+#include "core/chordtypes.h"
 #include "core/language.h"
-#include "core/settings.h"
-#include "diagrams/frmdiags.h"
-#include "info/frmsplash.h"
-#include "info/helpopener.h"
-#include "settings/frmsettings.h"
-#include "workbench/eventclock.h"
-#include "workbench/midiapi.h"
+#include "core/scales.h"
+#include "core/tunings.h"
 
 #include <QDir>
-#include <QMessageBox>
+
+AppState::AppState()
+    : ChordTypes(BuiltInChordTypes()),
+      Scales(BuiltInScales()),
+      Tunings(BuiltInTunings()),
+      LanguageFile(defaultLanguage) {}
+
+bool AppState::IsDefaultLanguage() const {
+    return LanguageFile == defaultLanguage;
+}
+
+Tongue AppState::InterfaceTongue() const {
+    return IsDefaultLanguage() ? Tongue::Russian : Tongue::English;
+}
+
+QString AppState::SettingsFile() const {
+    return AppPath + QStringLiteral("tonvik.ini");
+}
 
 QString FolderPath(const QString& folder) {
     const QChar separator = QDir::separator();
     const QString path = QDir::toNativeSeparators(folder);
     return path.endsWith(separator) ? path : path + separator;
-}
-
-mdlMain::mdlMain(Application& application, const QString& folder)
-    : mdlMain(application, folder, std::make_unique<MidiAPI>(FolderPath(folder)),
-              std::make_unique<EventClock>()) {}
-
-mdlMain::mdlMain(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
-                 std::unique_ptr<Clock> clock)
-    : m_application(application),
-      m_midi(std::move(midi)),
-      m_clock(std::move(clock)),
-      m_splash(std::make_unique<frmSplash>()) {
-    m_state.AppPath = FolderPath(folder);
-}
-
-mdlMain::~mdlMain() = default;
-
-void mdlMain::Main() {
-    m_splash->show();
-    QApplication::processEvents();
-    m_workbench = std::make_unique<Workbench>(m_state);
-    m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, *m_clock);
-    m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
-    m_splash->ProgressStep();
-    m_window->ShowTypes();
-    LoadLanguage();
-    m_splash->ProgressStep();
-    m_window->ShowRoots();
-    m_state.Scales.AppendDataFile(m_state.AppPath + QStringLiteral("scales.dat"));
-    m_splash->ProgressStep();
-    m_window->ShowScales();
-    m_state.Tunings.AppendDataFile(m_state.AppPath + QStringLiteral("tunings.dat"));
-    m_splash->ProgressStep();
-    m_workbench->SaveKeyColours();
-    LoadStartUpSettings(m_state);
-    m_workbench->StringsChanged();
-    if (m_state.IsDefaultLanguage()) {
-        m_window->FillBuiltInLists();
-        m_state.UiText = BuiltInUiTexts();
-    } else {
-        m_window->setWindowTitle(QStringLiteral("Tonvik"));
-    }
-    m_window->SelectDefaults();
-    m_splash->ProgressStep();
-    m_splash.reset();
-    ConnectWindows();
-    m_window->OpenAtBestSize();
-    m_window->show();
-}
-
-void mdlMain::LoadLanguage() {
-    const LanguageChoice choice = ChooseLanguage(m_state);
-    m_application.SetTongue(m_state.InterfaceTongue());
-    if (choice == LanguageChoice::FileMissing)
-        QMessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
-                    QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
-                                   "отсутствует!"),
-                    QMessageBox::Ok)
-            .exec();
-    if (choice == LanguageChoice::File) {
-        m_window->ApplyLanguage(LanguageTexts(m_state.LanguageFile));
-        m_window->ApplyTongue();
-    }
-}
-
-void mdlMain::ConnectWindows() {
-    m_help = std::make_unique<HelpOpener>(
-        m_state,
-        [this] {
-            return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()};
-        },
-        m_window.get());
-    Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(), [this](bool modal) {
-        if (modal)
-            m_help->ShowModal();
-        else
-            m_help->Show();
-    });
-    Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
-    Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
-    m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
-    m_application.SetEnd([this] { m_window->close(); });
-}
-
-void mdlMain::ShowSettings() {
-    frmSettings dialog(
-        m_state, *m_midi, *m_clock,
-        [this](const OpenStrings& strings, bool thinStringAtBottom) {
-            LayStrings(m_state, strings, thinStringAtBottom);
-            m_workbench->StringsChanged();
-            m_window->ShowState();
-        },
-        m_window.get());
-    Application::Guard([&dialog] { dialog.Form_Load(); });
-    dialog.exec();
-    if (dialog.Unsaved())
-        m_window->ShowNotice(
-            {QStringLiteral("Настройки не запомнены. ") + dialog.Unsaved()->russian,
-             QStringLiteral("The settings were not remembered. ") + dialog.Unsaved()->english});
-}
-
-void mdlMain::ShowDiagrams() {
-    if (!m_diagrams)
-        m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
-            BoardFingering board;
-            board.chordName = m_workbench->ChordName();
-            board.barreFret = m_workbench->ShownBarreFret();
-            for (int row = 0; row < stringCount; ++row)
-                board.marks[static_cast<std::size_t>(row)] = m_workbench->Row(row).mark;
-            return board;
-        });
-    m_diagrams->show();
-    m_diagrams->raise();
-    m_diagrams->activateWindow();
 }

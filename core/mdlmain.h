@@ -1,50 +1,48 @@
-// The start-up routine: builds the state and the windows, in an order that matters.
+// The state that every window shares. The start-up routine fills it; the catalogues are
+// read-only afterwards.
 #pragma once
 
-#include "core/appstate.h"
-#include "workbench/frmmain.h"
-#include "workbench/sound.h"
-#include "workbench/workbench.h"
+#include "core/texttable.h"
 
-#include <memory>
+#include <QString>
 
-class Application;
-class HelpOpener;
-class frmDiags;
-class frmSplash;
+#include <array>
 
-class mdlMain {
-public:
-    // folder: where the executable lies; the program's folder from now on.
-    mdlMain(Application& application, const QString& folder);
+constexpr int stringCount = 6;
 
-    // With a sound and a clock other than the machine's.
-    mdlMain(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
-            std::unique_ptr<Clock> clock);
-    ~mdlMain();
+// One text per row of the fretboard, or per string: the declaration says which.
+using SixTexts = std::array<QString, stringCount>;
 
-    // Shows the splash, loads everything, shows the main window. A step that fails throws
-    // its run-time error; the program cannot go on then.
-    void Main();
+struct UiTexts {
+    QString NoSuchChordType;
+    QString StructureExists;
+    QString AltNamesLabel;
+    QString Attention;
+};
 
-    frmMain& Window() { return *m_window; }
-    AppState& State() { return m_state; }
+struct AppState {
+    AppState();
 
-private:
-    void LoadLanguage();
-    void ConnectWindows();
-    void ShowSettings();
-    void ShowDiagrams();
+    TextTable ChordTypes;
+    TextTable Scales;
+    TextTable Tunings;
 
-    Application& m_application;
-    AppState m_state;
-    std::unique_ptr<MidiPlayer> m_midi;
-    std::unique_ptr<Clock> m_clock;
-    std::unique_ptr<Workbench> m_workbench;
-    std::unique_ptr<frmMain> m_window;
-    std::unique_ptr<HelpOpener> m_help;
-    std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
-    std::unique_ptr<frmSplash> m_splash;
+    SixTexts StringNotes;  // The open notes by row of the fretboard, the bottom row first.
+    SixTexts SoundNumbers; // By row as well: the number of each open string's sound file, as text.
+    bool ThinStringAtBottom = true;
+
+    bool IsPlaying = false; // A playback loop runs; the stop button clears it.
+    QString AppPath;        // The program's folder, ending in the path separator.
+    QString LanguageFile;   // Its full path, or "Default" for the built-in Russian texts.
+    UiTexts UiText;
+
+    bool IsDefaultLanguage() const;
+
+    // The language of the texts that no language file replaces.
+    Tongue InterfaceTongue() const;
+
+    // The settings file in the program's folder.
+    QString SettingsFile() const;
 };
 
 // The folder's text with a separator at its end, which a drive's root has already.

@@ -1,7 +1,7 @@
 // The settings that the program keeps in tonvik.ini: the strings and their order.
 #pragma once
 
-#include "core/appstate.h"
+#include "core/mdlmain.h"
 
 class ProfileFile;
 

@@ -3,7 +3,7 @@
 
 #include "controls/goldbutton.h"
 #include "controls/listbox.h"
-#include "core/appstate.h"
+#include "core/mdlmain.h"
 #include "diagrams/fingeringcode.h"
 
 #include <QLineEdit>

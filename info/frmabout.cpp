@@ -2,7 +2,7 @@
 
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
-#include "core/appstate.h"
+#include "core/mdlmain.h"
 #include "core/phrase.h"
 #include "info/linklabel.h"
 

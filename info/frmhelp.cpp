@@ -4,8 +4,8 @@
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
 #include "controls/twips.h"
-#include "core/appstate.h"
 #include "core/language.h"
+#include "core/mdlmain.h"
 #include "info/frmabout.h"
 #include "info/helptext.h"
 

@@ -1,7 +1,7 @@
 // The program's entry.
 #include "controls/application.h"
-#include "core/mdlmain.h"
 #include "core/runtimeerror.h"
+#include "program/startup.h"
 
 #include <cstdlib>
 
@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tonvik"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonvik"));
-    mdlMain start(application, QCoreApplication::applicationDirPath());
+    StartUp start(application, QCoreApplication::applicationDirPath());
     try {
         start.Main();
     } catch (const RunTimeError& error) {

@@ -8,7 +8,7 @@
 #include "core/runtimeerror.h"
 #include "core/tunings.h"
 #include "settings/soundnumbers.h"
-#include "workbench/playback.h"
+#include "sound/playback.h"
 
 #include <QScopeGuard>
 #include <QScopedValueRollback>

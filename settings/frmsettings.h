@@ -5,7 +5,7 @@
 #include "controls/listbox.h"
 #include "controls/upscrollbar.h"
 #include "core/settings.h"
-#include "workbench/sound.h"
+#include "sound/sound.h"
 
 #include <QCheckBox>
 #include <QDialog>

@@ -4,7 +4,7 @@
 #include "controls/cataloguemodel.h"
 #include "controls/colours.h"
 #include "core/runtimeerror.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -5,8 +5,8 @@
 #include "controls/dropdown.h"
 #include "controls/goldbutton.h"
 #include "controls/listbox.h"
-#include "workbench/instrumentpanel.h"
-#include "workbench/playback.h"
+#include "pictures/instrumentpanel.h"
+#include "sound/playback.h"
 #include "workbench/workbench.h"
 
 #include <QGroupBox>

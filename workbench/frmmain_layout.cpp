@@ -6,7 +6,7 @@
 #include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/upscrollbar.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>

@@ -2,8 +2,8 @@
 // pointer.
 #include "workbench/frmmain.h"
 
-#include "workbench/fretboardlayout.h"
-#include "workbench/keyboardlayout.h"
+#include "pictures/fretboardlayout.h"
+#include "pictures/keyboardlayout.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

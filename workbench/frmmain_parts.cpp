@@ -2,8 +2,8 @@
 // what the pointer or the keyboard is at.
 #include "workbench/frmmain.h"
 
-#include "workbench/keyboardlayout.h"
-#include "workbench/partnames.h"
+#include "pictures/keyboardlayout.h"
+#include "pictures/partnames.h"
 
 PictureParts frmMain::FretboardParts() {
     PictureParts board;

@@ -4,8 +4,8 @@
 #include "core/numbers.h"
 #include "core/runtimeerror.h"
 #include "core/scales.h"
-#include "workbench/fretboardlayout.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
+#include "pictures/fretboardlayout.h"
 
 namespace {
 

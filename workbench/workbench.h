@@ -2,9 +2,9 @@
 // does to it. Plain values; the window shows them.
 #pragma once
 
-#include "workbench/fingering.h"
-#include "workbench/pianokeys.h"
-#include "workbench/playback.h"
+#include "music/fingering.h"
+#include "music/pianokeys.h"
+#include "sound/playback.h"
 
 #include <optional>
 

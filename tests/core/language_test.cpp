@@ -1,9 +1,9 @@
 // Which language is chosen, which there are, and what a file gives for a key.
 #include "core/language.h"
 
-#include "core/appstate.h"
 #include "core/codepage.h"
-#include "testfolder.h"
+#include "core/mdlmain.h"
+#include "support/testfolder.h"
 
 #include <QTest>
 

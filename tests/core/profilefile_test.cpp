@@ -1,7 +1,7 @@
 // Profile files on disk: what cannot be read, what cannot be written, what is replaced.
 #include "core/profile.h"
 
-#include "testfolder.h"
+#include "support/testfolder.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 
 #include "core/codepage.h"
 #include "core/profile.h"
-#include "testfolder.h"
+#include "support/testfolder.h"
 
 #include <QTest>
 

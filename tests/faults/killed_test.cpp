@@ -2,8 +2,8 @@
 // that disturbs the next start.
 #include "contents.h"
 #include "core/language.h"
+#include "support/testfolder.h"
 #include "systemcalls.h"
-#include "tests/core/testfolder.h"
 
 #include <QProcess>
 #include <QRandomGenerator>

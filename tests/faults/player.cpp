@@ -1,8 +1,8 @@
 // player FOLDER FILE [NOTES | rests]: plays a file a few times as the program does; says after
 // each start whether it sounds. With "rests" the notes are far apart, and it also says whether
 // the device is kept between.
-#include "workbench/fluidsynth.h"
-#include "workbench/midiapi.h"
+#include "sound/fluidsynth.h"
+#include "sound/midiapi.h"
 
 #include <QCoreApplication>
 #include <QFile>

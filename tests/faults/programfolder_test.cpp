@@ -1,11 +1,11 @@
 // The program folder goes away, or may not be written into, while the program runs.
 #include "controls/application.h"
-#include "core/mdlmain.h"
 #include "diagrams/frmdiags.h"
 #include "hostilesystem.h"
 #include "info/frmhelp.h"
+#include "program/startup.h"
 #include "settings/frmsettings.h"
-#include "tests/core/testfolder.h"
+#include "support/testfolder.h"
 #include "tests/support/dialogs.h"
 
 #include <QFileDialog>
@@ -49,7 +49,7 @@ private:
     void TuneToD();
 
     std::unique_ptr<TestFolder> m_folder;
-    std::unique_ptr<mdlMain> m_start;
+    std::unique_ptr<StartUp> m_start;
 };
 
 void ProgramFolderTest::init() {
@@ -67,7 +67,7 @@ void ProgramFolderTest::Start(const QByteArray& language) {
         QVERIFY(m_folder->Write(QString::fromLatin1(language), "[Init]\r\nLang=X\r\n"));
         QVERIFY(m_folder->Write(settingsFile, "[Settings]\r\nLanguage=" + language + "\r\n"));
     }
-    m_start = std::make_unique<mdlMain>(*static_cast<Application*>(qApp), m_folder->Path());
+    m_start = std::make_unique<StartUp>(*static_cast<Application*>(qApp), m_folder->Path());
     m_start->Main();
     QVERIFY(QTest::qWaitForWindowActive(&m_start->Window()));
 }

@@ -1,6 +1,6 @@
 // The program itself, started from odd places and in odd surroundings.
 #include "hostilesystem.h"
-#include "tests/core/testfolder.h"
+#include "support/testfolder.h"
 
 #include <QProcess>
 #include <QTest>

@@ -4,7 +4,7 @@
 #include "core/datafile.h"
 #include "core/runtimeerror.h"
 #include "hostilesystem.h"
-#include "tests/core/testfolder.h"
+#include "support/testfolder.h"
 
 #include <QTest>
 

@@ -6,7 +6,7 @@
 #include "core/scales.h"
 #include "core/tunings.h"
 #include "fuzz.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
 
 #include <cmath>
 

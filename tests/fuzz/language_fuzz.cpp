@@ -1,6 +1,6 @@
 // Any bytes as a language file and as the settings that choose it.
-#include "core/appstate.h"
 #include "core/language.h"
+#include "core/mdlmain.h"
 #include "fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {

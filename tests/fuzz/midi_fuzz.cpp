@@ -1,7 +1,7 @@
 // Any bytes as a sound file: what is handed to the synthesiser, it survives.
 #include "fuzz.h"
-#include "workbench/fluidsynth.h"
-#include "workbench/midiapi.h"
+#include "sound/fluidsynth.h"
+#include "sound/midiapi.h"
 
 #include <array>
 #include <memory>

@@ -6,9 +6,9 @@
 #include "core/codepage.h"
 #include "core/scales.h"
 #include "fuzz.h"
-#include "workbench/fretboardlayout.h"
-#include "workbench/keyboardlayout.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
+#include "pictures/fretboardlayout.h"
+#include "pictures/keyboardlayout.h"
 #include "workbench/workbench.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // About: its texts in both languages, the count of chords and the mail link.
 #include "controls/application.h"
-#include "core/appstate.h"
 #include "core/language.h"
+#include "core/mdlmain.h"
 #include "core/runtimeerror.h"
 #include "info/frmabout.h"
 #include "info/linklabel.h"

@@ -1,10 +1,10 @@
 // Every window by keyboard alone: Tab reaches every control that can be used, the control with
 // the focus looks different, and each has a name for those who do not see it.
 #include "controls/application.h"
-#include "core/mdlmain.h"
 #include "info/frmabout.h"
+#include "program/startup.h"
 #include "support/dialogs.h"
-#include "tests/core/testfolder.h"
+#include "support/testfolder.h"
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
@@ -62,12 +62,12 @@ private:
     void EveryControlHasAName(QWidget& window);
 
     TestFolder m_folder;
-    std::unique_ptr<mdlMain> m_start;
+    std::unique_ptr<StartUp> m_start;
 };
 
 void KeyboardTest::init() {
     QVERIFY(m_folder.Write(QStringLiteral("help.dat"), "help\r\n"));
-    m_start = std::make_unique<mdlMain>(*static_cast<Application*>(qApp), m_folder.Path());
+    m_start = std::make_unique<StartUp>(*static_cast<Application*>(qApp), m_folder.Path());
     m_start->Main();
     QVERIFY(QTest::qWaitForWindowActive(&m_start->Window()));
 }

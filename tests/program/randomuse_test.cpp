@@ -1,12 +1,12 @@
 // Thousands of random actions in the real windows; after each of them the program must still
 // be what a user relies on. TONVIK_ACTIONS and TONVIK_SEED say how many and which.
 #include "controls/application.h"
-#include "core/mdlmain.h"
-#include "core/testfolder.h"
+#include "pictures/fretboardlayout.h"
+#include "pictures/keyboardlayout.h"
+#include "program/startup.h"
 #include "randomuser.h"
 #include "support/recordingsound.h"
-#include "workbench/fretboardlayout.h"
-#include "workbench/keyboardlayout.h"
+#include "support/testfolder.h"
 
 #include <QDialog>
 #include <QPixmapCache>
@@ -68,7 +68,7 @@ private:
     TestFolder m_folder;
     SilentPlayer* m_player = nullptr;
     HandClock* m_clock = nullptr;
-    std::unique_ptr<mdlMain> m_start;
+    std::unique_ptr<StartUp> m_start;
 };
 
 void RandomUseTest::init() {
@@ -83,7 +83,7 @@ void RandomUseTest::init() {
     auto clock = std::make_unique<HandClock>();
     m_player = player.get();
     m_clock = clock.get();
-    m_start = std::make_unique<mdlMain>(*static_cast<Application*>(qApp), m_folder.Path(),
+    m_start = std::make_unique<StartUp>(*static_cast<Application*>(qApp), m_folder.Path(),
                                         std::move(player), std::move(clock));
     m_start->Main();
     QVERIFY(QTest::qWaitForWindowActive(&Window()));

@@ -1,7 +1,7 @@
 // Every sound file of the program, rendered without a device, and its pitch measured.
 #include "program/soundfile.h"
-#include "workbench/fluidsynth.h"
-#include "workbench/midiapi.h"
+#include "sound/fluidsynth.h"
+#include "sound/midiapi.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,11 +1,11 @@
 // Takes a picture of every window of the program, as it looks on the screen that the platform
 // offers: screens PROGRAM-FOLDER OUTPUT-FOLDER. Says which window has no room on the screen.
 #include "controls/application.h"
-#include "core/mdlmain.h"
 #include "info/frmabout.h"
 #include "info/frmsplash.h"
+#include "pictures/fretboardlayout.h"
+#include "program/startup.h"
 #include "support/dialogs.h"
-#include "workbench/fretboardlayout.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -127,7 +127,7 @@ int main(int argc, char** argv) {
         qFatal("Usage: screens PROGRAM-FOLDER OUTPUT-FOLDER");
     outputFolder = arguments[2];
     QDir().mkpath(outputFolder);
-    mdlMain start(application, arguments[1]);
+    StartUp start(application, arguments[1]);
     start.Main();
     TakeMainWindow(start.Window());
     TakeOtherWindows(start.Window(), start.State());

@@ -3,10 +3,10 @@
 
 #include "core/language.h"
 #include "core/settings.h"
+#include "pictures/fretboardlayout.h"
+#include "pictures/keyboardlayout.h"
 #include "support/recordingsound.h"
-#include "workbench/fretboardlayout.h"
 #include "workbench/frmmain.h"
-#include "workbench/keyboardlayout.h"
 
 #include <QTest>
 

@@ -2,7 +2,7 @@
 // at once, at the moment that was waited for.
 #pragma once
 
-#include "workbench/sound.h"
+#include "sound/sound.h"
 
 #include <QDir>
 #include <QStringList>

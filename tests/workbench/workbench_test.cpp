@@ -2,7 +2,7 @@
 #include "core/chordtypes.h"
 #include "core/runtimeerror.h"
 #include "core/settings.h"
-#include "workbench/spelling.h"
+#include "music/spelling.h"
 #include "workbench/workbench.h"
 
 #include <QTemporaryDir>

@@ -1,0 +1,43 @@
+#include "pictures/fretboardlayout.h"
+
+double FretboardLayout::StringY(int row) {
+    return highestString + (stringCount - 1 - row) * rowHeight;
+}
+
+double FretboardLayout::FretX(int fret) {
+    return fret * fretWidth;
+}
+
+QPointF FretboardLayout::MarkCentre(int row, int fret) {
+    return {markColumn + (fret - 1) * fretWidth, StringY(row)};
+}
+
+QRectF FretboardLayout::MarkRect(int row, int fret) {
+    QRectF rect(0, 0, markSize, markSize);
+    rect.moveCenter(MarkCentre(row, fret));
+    return rect;
+}
+
+QRectF FretboardLayout::BarreRect(Barre barre) {
+    constexpr double bottom = 2160;
+    const double top = (stringCount - (barre.lastRow + 1)) * rowHeight + 200;
+    return {MarkCentre(0, barre.fret).x() - markSize / 2, top, markSize, bottom - top};
+}
+
+QRectF FretboardLayout::RowRect(int row) {
+    return {0, StringY(row) - rowHeight / 2, size.width(), rowHeight};
+}
+
+std::optional<int> FretboardLayout::FretAt(double x) {
+    for (int column = 0; column < fretColumns; ++column)
+        if (column * fretWidth < x && x < (column + 1) * fretWidth)
+            return column + 1;
+    return std::nullopt;
+}
+
+std::optional<int> FretboardLayout::RowAt(double y) {
+    for (int fromTop = 0; fromTop < stringCount; ++fromTop)
+        if (firstRowTop + fromTop * rowHeight < y && y < firstRowTop + (fromTop + 1) * rowHeight)
+            return stringCount - 1 - fromTop;
+    return std::nullopt;
+}

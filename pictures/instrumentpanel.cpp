@@ -1,0 +1,100 @@
+#include "pictures/instrumentpanel.h"
+
+#include "pictures/keyboardlayout.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double twipsPerPixel = 15; // At 96 dpi.
+constexpr double smallestScale = 0.85;
+
+// The window's places, measured from the fretboard's top left corner.
+constexpr QSizeF panelSize{7695, 4215};
+constexpr double keyboardTop = 2640;
+constexpr QSizeF labelSize{495, 255};
+
+QRectF FretLabel(int fret) {
+    return {{(fret - 1) * FretboardLayout::fretWidth, 2160}, labelSize};
+}
+
+constexpr QRectF hint{0, 2415, 7215, 225};
+
+QRectF NoteLabel(int row) {
+    return {{7200, 120 + (stringCount - 1 - row) * FretboardLayout::rowHeight}, labelSize};
+}
+
+} // namespace
+
+InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+    for (int fret = 1; fret <= fretLabels; ++fret) {
+        auto* label = new HotLabel(QStringLiteral("Label3(%1)").arg(fret - 1), this);
+        label->setText(QString::number(fret));
+        Label3[static_cast<std::size_t>(fret - 1)] = label;
+    }
+    for (int row = 0; row < stringCount; ++row) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QStringLiteral("Label4(%1)").arg(row));
+        label->setAlignment(Qt::AlignCenter);
+        Label4[static_cast<std::size_t>(row)] = label;
+    }
+    for (int row = 0; row < stringCount; ++row)
+        Label6[static_cast<std::size_t>(row)] =
+            new HotLabel(QStringLiteral("Label6(%1)").arg(row), this);
+    lblHint = new QLabel(this);
+    lblHint->setObjectName(QStringLiteral("lblHint"));
+    lblHint->setTextFormat(Qt::PlainText);
+    lblHint->setAlignment(Qt::AlignCenter);
+    // Raised last: the picture lies over the first 15 twips of the labels around it.
+    picStrings = new PicStrings(this);
+    picKeyboard = new PicKeyboard(this);
+}
+
+QSize InstrumentPanel::SizeAt(double scale) {
+    const QSizeF size = panelSize * scale / twipsPerPixel;
+    return {static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))};
+}
+
+QSize InstrumentPanel::minimumSizeHint() const {
+    return SizeAt(smallestScale);
+}
+
+QSize InstrumentPanel::sizeHint() const {
+    return SizeAt(1);
+}
+
+void InstrumentPanel::resizeEvent(QResizeEvent*) {
+    Place();
+}
+
+void InstrumentPanel::Place() {
+    const double scale = std::min(width() / panelSize.width(), height() / panelSize.height());
+    const QPointF origin((width() - panelSize.width() * scale) / 2, 0);
+    const auto rect = [&](const QRectF& twips) {
+        return QRectF(twips.topLeft() * scale + origin, twips.size() * scale).toRect();
+    };
+    picStrings->setGeometry(rect({QPointF(0, 0), FretboardLayout::size}));
+    picKeyboard->setGeometry(rect({QPointF(0, keyboardTop), KeyboardLayout::size}));
+    QFont font = this->font();
+    font.setPixelSize(std::max(9, static_cast<int>(labelSize.height() * 0.78 * scale)));
+    const auto place = [&](QLabel* label, const QRectF& twips) {
+        label->setGeometry(rect(twips));
+        label->setFont(font);
+    };
+    for (int fret = 1; fret <= fretLabels; ++fret)
+        place(Label3[static_cast<std::size_t>(fret - 1)], FretLabel(fret));
+    QFont hintFont = font;
+    hintFont.setPixelSize(std::max(9, static_cast<int>(hint.height() * 0.78 * scale)));
+    place(lblHint, hint);
+    lblHint->setFont(hintFont);
+    QFont noteFont = font;
+    noteFont.setBold(true);
+    for (int row = 0; row < stringCount; ++row) {
+        QLabel* label = Label4[static_cast<std::size_t>(row)];
+        noteFont.setStrikeOut(label->font().strikeOut()); // A muted string stays struck out.
+        place(label, NoteLabel(row));
+        place(Label6[static_cast<std::size_t>(row)], NoteLabel(row));
+        label->setFont(noteFont);
+    }
+}

@@ -1,0 +1,35 @@
+// The two pictures with the fret numbers, note labels and string handles around them, at
+// one scale and at the places that the pictures' twips give them.
+#pragma once
+
+#include "controls/hotlabel.h"
+#include "pictures/pickeyboard.h"
+#include "pictures/picstrings.h"
+
+#include <array>
+
+class InstrumentPanel : public QWidget {
+public:
+    static constexpr int fretLabels = 15;
+
+    explicit InstrumentPanel(QWidget* parent = nullptr);
+
+    PicStrings* picStrings;
+    PicKeyboard* picKeyboard;
+    QLabel* lblHint; // Under the fret numbers: what the pointer or the keyboard is at.
+    std::array<HotLabel*, fretLabels> Label3;  // Fret numbers, fret 1 first.
+    std::array<QLabel*, stringCount> Label4;   // Sounding notes, the bottom row first.
+    std::array<HotLabel*, stringCount> Label6; // Handles over them.
+
+    // The panel's size when a twip is scale / 15 pixels: 1 is the size at 96 dpi.
+    static QSize SizeAt(double scale);
+
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Place();
+};

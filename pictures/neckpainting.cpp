@@ -1,0 +1,185 @@
+#include "pictures/neckpainting.h"
+
+#include "controls/colours.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace {
+
+constexpr QColor wood(0x54, 0x35, 0x22);
+constexpr QColor woodDark(0x3C, 0x25, 0x17);
+constexpr QColor woodLight(0x6A, 0x45, 0x2D);
+constexpr QColor binding(0xE9, 0xDD, 0xC2);
+constexpr QColor nut(0xF4, 0xEC, 0xD8);
+constexpr QColor pearl(0xE6, 0xE2, 0xD6);
+constexpr QColor fretBright(0xE4, 0xE0, 0xD8);
+constexpr QColor fretShade(0x8A, 0x83, 0x78);
+constexpr QColor plainString(0xE2, 0xE0, 0xDA);
+constexpr QColor woundString(0xC9, 0xA6, 0x5A);
+constexpr QColor shadow(0, 0, 0, 90);
+constexpr QColor sounding(0xFF, 0xD2, 0x4A);
+constexpr QColor markEdge(0x8E, 0x00, 0x00);
+
+constexpr double neckTop = 75;
+constexpr double neckBottom = 2145;
+constexpr double inlaySize = 150;
+
+double Gauge(int string) {
+    constexpr std::array<double, stringCount> gauges{14, 18, 24, 32, 42, 54};
+    return gauges[static_cast<std::size_t>(string - 1)];
+}
+
+void PaintWood(QPainter& painter) {
+    const QRectF neck(0, neckTop, FretboardLayout::size.width(), neckBottom - neckTop);
+    QLinearGradient roundness(neck.topLeft(), neck.bottomLeft());
+    roundness.setColorAt(0, woodDark);
+    roundness.setColorAt(0.25, wood);
+    roundness.setColorAt(0.5, woodLight);
+    roundness.setColorAt(0.75, wood);
+    roundness.setColorAt(1, woodDark);
+    painter.fillRect(neck, roundness);
+    // Grain: streaks along the neck, strewn so evenly irregular that no pattern shows.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int streak = 0; streak < 150; ++streak) {
+        const double x = std::fmod(streak * 4637.0, neck.width() + 1800) - 1800;
+        const double y = neckTop + std::fmod(streak * 1279.0, neck.height() - 20);
+        const double length = 900 + streak % 7 * 260;
+        const QColor shade = streak % 3 == 0 ? QColor(255, 220, 180, 14) : QColor(0, 0, 0, 34);
+        painter.fillRect(QRectF(x, y, length, 15), shade);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRectF(0, neckTop - 30, neck.width(), 30), binding);
+    painter.fillRect(QRectF(0, neckBottom, neck.width(), 30), binding);
+}
+
+void PaintInlay(QPainter& painter, double x, double y) {
+    const QRectF dot(x - inlaySize / 2, y - inlaySize / 2, inlaySize, inlaySize);
+    QRadialGradient shine(dot.center() - QPointF(30, 30), inlaySize);
+    shine.setColorAt(0, pearl.lighter(108));
+    shine.setColorAt(1, pearl.darker(125));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shine);
+    painter.drawEllipse(dot);
+}
+
+void PaintInlays(QPainter& painter) {
+    const double middle = (FretboardLayout::StringY(2) + FretboardLayout::StringY(3)) / 2;
+    for (const int fret : {3, 5, 7, 9, 12, 15}) {
+        const double x = FretboardLayout::FretX(fret) - FretboardLayout::fretWidth / 2;
+        if (fret == 12) {
+            PaintInlay(painter, x, middle - FretboardLayout::rowHeight);
+            PaintInlay(painter, x, middle + FretboardLayout::rowHeight);
+        } else {
+            PaintInlay(painter, x, middle);
+        }
+    }
+}
+
+void PaintFrets(QPainter& painter) {
+    const double height = neckBottom - neckTop;
+    painter.fillRect(QRectF(0, neckTop, 45, height), nut);
+    painter.fillRect(QRectF(45, neckTop, 15, height), shadow);
+    for (int fret = 1; fret < FretboardLayout::fretColumns; ++fret) {
+        const double x = FretboardLayout::FretX(fret);
+        painter.fillRect(QRectF(x - 15, neckTop, 30, height), fretBright);
+        painter.fillRect(QRectF(x + 5, neckTop, 10, height), fretShade);
+        painter.fillRect(QRectF(x + 15, neckTop, 15, height), shadow);
+    }
+}
+
+void PaintString(QPainter& painter, int row, int string) {
+    const double y = FretboardLayout::StringY(row);
+    const double width = FretboardLayout::size.width();
+    const double gauge = Gauge(string);
+    const QColor metal = string <= 3 ? plainString : woundString;
+    painter.fillRect(QRectF(0, y + gauge / 2, width, 14 + gauge / 3), shadow);
+    QLinearGradient round(0, y - gauge / 2, 0, y + gauge / 2);
+    round.setColorAt(0, metal.lighter(115));
+    round.setColorAt(0.45, metal);
+    round.setColorAt(1, metal.darker(170));
+    painter.fillRect(QRectF(0, y - gauge / 2, width, gauge), round);
+}
+
+void PaintSounding(QPainter& painter, int row, int string) {
+    QPainterPath wave;
+    const double y = FretboardLayout::StringY(row);
+    const double swing = 34 + Gauge(string) / 2;
+    const double width = FretboardLayout::size.width();
+    wave.moveTo(0, y);
+    wave.quadTo(width / 2, y - 2 * swing, width, y);
+    wave.quadTo(width / 2, y + 2 * swing, 0, y);
+    QColor glow = sounding;
+    glow.setAlpha(110);
+    painter.setBrush(glow);
+    painter.setPen(QPen(sounding, 15));
+    painter.drawPath(wave);
+}
+
+// The prescribed colour fills the mark; its edge lies outside.
+void PaintFinger(QPainter& painter, const QRectF& disc) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shadow);
+    painter.drawEllipse(disc.translated(12, 22).adjusted(-6, -6, 6, 6));
+    painter.setBrush(markEdge);
+    painter.drawEllipse(disc.adjusted(-15, -15, 15, 15));
+    painter.setBrush(Colours::mark);
+    painter.drawEllipse(disc);
+}
+
+// Where the next click would set a finger, and the note that it would give.
+void PaintPointed(QPainter& painter, const QRectF& disc, const QString& note) {
+    painter.setPen(QPen(Colours::focus, 20));
+    painter.setBrush(Colours::field);
+    painter.drawEllipse(disc);
+    QFont font = painter.font();
+    font.setPixelSize(note.size() > 1 ? 135 : 165);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Colours::text);
+    painter.drawText(disc, Qt::AlignCenter, note);
+}
+
+void PaintBarre(QPainter& painter, const QRectF& bar) {
+    painter.fillRect(bar.translated(22, 0), shadow);
+    painter.fillRect(bar.adjusted(-12, -12, 12, 12), markEdge);
+    painter.fillRect(bar, Colours::mark);
+}
+
+} // namespace
+
+void PaintNeck(QPainter& painter, bool thinStringAtBottom) {
+    painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::window);
+    PaintWood(painter);
+    PaintInlays(painter);
+    PaintFrets(painter);
+    for (int row = 0; row < stringCount; ++row)
+        PaintString(painter, row, StringOfRow(row, thinStringAtBottom));
+}
+
+void PaintMarks(QPainter& painter, const FretboardView& view) {
+    for (int row = 0; row < stringCount; ++row) {
+        if (!view.muted[static_cast<std::size_t>(row)])
+            continue;
+        const double y = FretboardLayout::StringY(row);
+        QPen gaps(woodDark, 66);
+        gaps.setDashPattern({1.6, 1.6});
+        painter.setPen(gaps);
+        painter.drawLine(QPointF(60, y), QPointF(FretboardLayout::size.width(), y));
+    }
+    if (view.soundingRow)
+        PaintSounding(painter, *view.soundingRow,
+                      StringOfRow(*view.soundingRow, view.thinStringAtBottom));
+    if (view.barre)
+        PaintBarre(painter, FretboardLayout::BarreRect(*view.barre));
+    for (int row = 0; row < stringCount; ++row)
+        if (const auto fret = view.marks[static_cast<std::size_t>(row)])
+            PaintFinger(painter, FretboardLayout::MarkRect(row, *fret));
+    if (!view.pointed || view.pointedNote.isEmpty())
+        return;
+    const auto [row, fret] = *view.pointed;
+    if (view.marks[static_cast<std::size_t>(row)] != fret)
+        PaintPointed(painter, FretboardLayout::MarkRect(row, fret), view.pointedNote);
+}

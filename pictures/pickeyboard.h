@@ -1,0 +1,29 @@
+// The piano on the screen: three octaves of keys and the marks on them.
+#pragma once
+
+#include "controls/twippicture.h"
+#include "music/pianokeys.h"
+
+#include <QPixmap>
+
+// What the picture shows.
+struct KeyboardView {
+    std::array<Rgb, keyCount> fills{};
+    std::optional<int> soundingKey;
+
+    bool operator==(const KeyboardView&) const = default;
+};
+
+class PicKeyboard : public TwipPicture {
+public:
+    explicit PicKeyboard(QWidget* parent = nullptr);
+
+    void Show(const KeyboardView& view);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    KeyboardView m_view;
+    QPixmap m_picture; // The keys as they are; painted anew where the view changed.
+};

@@ -1,0 +1,128 @@
+#include "program/startup.h"
+
+#include "controls/application.h"
+#include "controls/handle.h"
+#include "core/language.h"
+#include "core/settings.h"
+#include "diagrams/frmdiags.h"
+#include "info/frmsplash.h"
+#include "info/helpopener.h"
+#include "settings/frmsettings.h"
+#include "sound/eventclock.h"
+#include "sound/midiapi.h"
+
+#include <QMessageBox>
+
+StartUp::StartUp(Application& application, const QString& folder)
+    : StartUp(application, folder, std::make_unique<MidiAPI>(FolderPath(folder)),
+              std::make_unique<EventClock>()) {}
+
+StartUp::StartUp(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
+                 std::unique_ptr<Clock> clock)
+    : m_application(application),
+      m_midi(std::move(midi)),
+      m_clock(std::move(clock)),
+      m_splash(std::make_unique<frmSplash>()) {
+    m_state.AppPath = FolderPath(folder);
+}
+
+StartUp::~StartUp() = default;
+
+void StartUp::Main() {
+    m_splash->show();
+    QApplication::processEvents();
+    m_workbench = std::make_unique<Workbench>(m_state);
+    m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, *m_clock);
+    m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
+    m_splash->ProgressStep();
+    m_window->ShowTypes();
+    LoadLanguage();
+    m_splash->ProgressStep();
+    m_window->ShowRoots();
+    m_state.Scales.AppendDataFile(m_state.AppPath + QStringLiteral("scales.dat"));
+    m_splash->ProgressStep();
+    m_window->ShowScales();
+    m_state.Tunings.AppendDataFile(m_state.AppPath + QStringLiteral("tunings.dat"));
+    m_splash->ProgressStep();
+    m_workbench->SaveKeyColours();
+    LoadStartUpSettings(m_state);
+    m_workbench->StringsChanged();
+    if (m_state.IsDefaultLanguage()) {
+        m_window->FillBuiltInLists();
+        m_state.UiText = BuiltInUiTexts();
+    } else {
+        m_window->setWindowTitle(QStringLiteral("Tonvik"));
+    }
+    m_window->SelectDefaults();
+    m_splash->ProgressStep();
+    m_splash.reset();
+    ConnectWindows();
+    m_window->OpenAtBestSize();
+    m_window->show();
+}
+
+void StartUp::LoadLanguage() {
+    const LanguageChoice choice = ChooseLanguage(m_state);
+    m_application.SetTongue(m_state.InterfaceTongue());
+    if (choice == LanguageChoice::FileMissing)
+        QMessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
+                    QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
+                                   "отсутствует!"),
+                    QMessageBox::Ok)
+            .exec();
+    if (choice == LanguageChoice::File) {
+        m_window->ApplyLanguage(LanguageTexts(m_state.LanguageFile));
+        m_window->ApplyTongue();
+    }
+}
+
+void StartUp::ConnectWindows() {
+    m_help = std::make_unique<HelpOpener>(
+        m_state,
+        [this] {
+            return ChordRows{m_window->lstBase->RowCount(), m_window->lstType->RowCount()};
+        },
+        m_window.get());
+    Handle(m_window.get(), &frmMain::HelpAsked, m_window.get(), [this](bool modal) {
+        if (modal)
+            m_help->ShowModal();
+        else
+            m_help->Show();
+    });
+    Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
+    Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
+    m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
+    m_application.SetEnd([this] { m_window->close(); });
+}
+
+void StartUp::ShowSettings() {
+    frmSettings dialog(
+        m_state, *m_midi, *m_clock,
+        [this](const OpenStrings& strings, bool thinStringAtBottom) {
+            LayStrings(m_state, strings, thinStringAtBottom);
+            m_workbench->StringsChanged();
+            m_window->ShowState();
+        },
+        m_window.get());
+    Application::Guard([&dialog] { dialog.Form_Load(); });
+    dialog.exec();
+    if (dialog.Unsaved())
+        m_window->ShowNotice(
+            {QStringLiteral("Настройки не запомнены. ") + dialog.Unsaved()->russian,
+             QStringLiteral("The settings were not remembered. ") + dialog.Unsaved()->english});
+}
+
+void StartUp::ShowDiagrams() {
+    if (!m_diagrams)
+        m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
+            BoardFingering board;
+            board.chordName = m_workbench->ChordName();
+            board.barreFret = m_workbench->ShownBarreFret();
+            for (int row = 0; row < stringCount; ++row)
+                board.marks[static_cast<std::size_t>(row)] = m_workbench->Row(row).mark;
+            return board;
+        });
+    m_diagrams->show();
+    m_diagrams->raise();
+    m_diagrams->activateWindow();
+}

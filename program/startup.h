@@ -1,0 +1,48 @@
+// The start-up routine: builds the state and the windows, in an order that matters.
+#pragma once
+
+#include "core/mdlmain.h"
+#include "sound/sound.h"
+#include "workbench/frmmain.h"
+#include "workbench/workbench.h"
+
+#include <memory>
+
+class Application;
+class HelpOpener;
+class frmDiags;
+class frmSplash;
+
+class StartUp {
+public:
+    // folder: where the executable lies; the program's folder from now on.
+    StartUp(Application& application, const QString& folder);
+
+    // With a sound and a clock other than the machine's.
+    StartUp(Application& application, const QString& folder, std::unique_ptr<MidiPlayer> midi,
+            std::unique_ptr<Clock> clock);
+    ~StartUp();
+
+    // Shows the splash, loads everything, shows the main window. A step that fails throws
+    // its run-time error; the program cannot go on then.
+    void Main();
+
+    frmMain& Window() { return *m_window; }
+    AppState& State() { return m_state; }
+
+private:
+    void LoadLanguage();
+    void ConnectWindows();
+    void ShowSettings();
+    void ShowDiagrams();
+
+    Application& m_application;
+    AppState m_state;
+    std::unique_ptr<MidiPlayer> m_midi;
+    std::unique_ptr<Clock> m_clock;
+    std::unique_ptr<Workbench> m_workbench;
+    std::unique_ptr<frmMain> m_window;
+    std::unique_ptr<HelpOpener> m_help;
+    std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
+    std::unique_ptr<frmSplash> m_splash;
+};

@@ -1,0 +1,71 @@
+// Playing the marked keys, or the strings as they are fingered, one note after another.
+#pragma once
+
+#include "core/mdlmain.h"
+#include "sound/sound.h"
+
+#include <functional>
+#include <optional>
+
+// What playback asks about a row of the fretboard when its turn comes.
+struct RowSound {
+    bool enabled = true;     // A muted string is passed over.
+    std::optional<int> mark; // The fret of its finger mark.
+    QString soundNumber;     // Of the open string; one less is one semitone higher.
+};
+
+// What playback reads while it runs.
+struct PlaybackSource {
+    std::function<bool(int key)> keyMarked;
+    std::function<RowSound(int row)> row;
+    std::function<std::optional<int>()> barreFret;
+    std::function<bool()> repeats;
+};
+
+// The file of a key 0 to 35, and of a string's sound number less the fret it is stopped at.
+// A number text that is no number is 0; a number without a file is silence.
+QString KeySoundFile(const QString& appPath, int key);
+QString StringSoundFile(const QString& appPath, const QString& soundNumber, int fret);
+
+// The fret that a row sounds: its mark's, else the barre's, else 0.
+int SoundingFret(const RowSound& row, std::optional<int> barreFret);
+
+// Rows from the sixth string, the thickest, to the first.
+std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom);
+
+class Playback {
+public:
+    Playback(AppState& state, MidiPlayer& midi, Clock& clock, PlaybackSource source);
+
+    // Called whenever another key or string begins or ends to sound.
+    void SetShow(std::function<void()> show) { m_show = std::move(show); }
+
+    // Half a second a note when fast, else a second. Returns when the loop has ended; events
+    // are processed meanwhile, so a second call runs nested in the first.
+    void PlayKeys(bool fast);
+    void PlayStrings(bool fast);
+
+    // Lets every running loop finish its pass.
+    void Stop();
+
+    // Ends every loop without another note: the window is closing.
+    void Abandon();
+
+    std::optional<int> SoundingKey() const { return m_soundingKey; }
+    std::optional<int> SoundingRow() const { return m_soundingRow; }
+
+private:
+    class Beat;
+
+    void Repeat(bool fast, const std::function<void(Beat&)>& pass);
+    void ShowSounding(std::optional<int> key, std::optional<int> row);
+
+    AppState& m_state;
+    MidiPlayer& m_midi;
+    Clock& m_clock;
+    PlaybackSource m_source;
+    std::function<void()> m_show;
+    std::optional<int> m_soundingKey;
+    std::optional<int> m_soundingRow;
+    bool m_abandoned = false;
+};

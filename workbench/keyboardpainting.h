@@ -1,9 +1,0 @@
-// Painting the piano, in twips.
-#pragma once
-
-#include "workbench/pickeyboard.h"
-
-class QPainter;
-
-// Every key in its fill colour, white keys first, a marked one with its name.
-void PaintKeyboard(QPainter& painter, const KeyboardView& view);
