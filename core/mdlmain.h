@@ -30,6 +30,7 @@ struct AppState {
     SixTexts StringNotes;  // The open notes by row of the fretboard, the bottom row first.
     SixTexts SoundNumbers; // By row as well: the number of each open string's sound file, as text.
     bool ThinStringAtBottom = true;
+    bool LeftHanded = false; // The neck is drawn mirrored, its nut at the right.
 
     bool IsPlaying = false; // A playback loop runs; the stop button clears it.
     QString AppPath;        // The program's folder, ending in the path separator.
