@@ -20,7 +20,7 @@ foreach(size 16 24 32 48 64 128 256)
         DESTINATION "${icons}/${size}x${size}/apps" RENAME tonvik.png)
 endforeach()
 file(INSTALL "${CMAKE_CURRENT_LIST_DIR}/tonvik.metainfo.xml" DESTINATION "${share}/metainfo"
-    RENAME org.tonvik.Tonvik.metainfo.xml)
+    RENAME org.tonvik.tonvik.metainfo.xml)
 
 # One name a line, a folder's with a slash at its end. What lies under the prefix is named from
 # there, so that it can be moved. CMake's lists come apart at a bracket in a name; lines do not.

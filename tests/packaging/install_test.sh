@@ -14,7 +14,7 @@ check_installation() {
 "./applications/tonvik.desktop
 $(printf './icons/hicolor/%s/apps/tonvik.png\n' 128x128 16x16 24x24 256x256 32x32 48x48 64x64)
 ./icons/hicolor/scalable/apps/tonvik.svg
-./metainfo/org.tonvik.Tonvik.metainfo.xml" "$(files_of "$2")"
+./metainfo/org.tonvik.tonvik.metainfo.xml" "$(files_of "$2")"
 }
 
 # The whole program folder: 36 keys and their sounds among it.
