@@ -80,8 +80,8 @@ void frmAbout::ShowRussianTexts(const Author& author) {
     if (!author.name.isEmpty())
         Label3->setText(QStringLiteral("Автор программы: ") + author.name +
                         (author.email.isEmpty() ? QString() : QStringLiteral(", ")));
-    Label5->setText(QStringLiteral("Программа распространяется бесплатно и такой, какая она есть: "
-                                   "автор не отвечает за последствия её использования."));
+    Label5->setText(QStringLiteral("Программа распространяется бесплатно и «как есть»: автор не "
+                                   "несёт ответственности за последствия её использования."));
     Label6->setText(QStringLiteral("Присылайте, пожалуйста, свои замечания и пожелания. Я, по "
                                    "возможности, отвечу Вам."));
 }
@@ -92,8 +92,9 @@ void frmAbout::ShowEnglishTexts(const Author& author) {
     Label2->setText(QStringLiteral("Version 2.1-beta, platform Win9x/NT"));
     if (!author.name.isEmpty())
         Label3->setText(QStringLiteral("Author of program: ") + author.name);
-    Label5->setText(QStringLiteral("The program is distributed free of charge and as it is: its "
-                                   "author takes no responsibility for what comes of its use."));
+    Label5->setText(QStringLiteral("This program is distributed free of charge and \"as is\": its "
+                                   "author accepts no responsibility for the consequences of "
+                                   "using it."));
     Label6->setText(QStringLiteral(
         "If you have any questions, comments or suggestions, please mail them to me at the "
         "address above. I will try to fix any bugs or implement suggestions I receive (within "

@@ -86,7 +86,9 @@ private Q_SLOTS:
         QCOMPARE(about.Label2->text(), QStringLiteral("Версия 2.1-beta, платформа: Win9x/NT"));
         QCOMPARE(about.Label3->text(), QStringLiteral("Автор программы: Anna, "));
         QCOMPARE(about.Label4->text(), someone.email);
-        QVERIFY(about.Label5->text().contains(QStringLiteral("бесплатно")));
+        QCOMPARE(about.Label5->text(),
+                 QStringLiteral("Программа распространяется бесплатно и «как есть»: автор не несёт "
+                                "ответственности за последствия её использования."));
         QCOMPARE(about.Label6->text(),
                  QStringLiteral("Присылайте, пожалуйста, свои замечания и пожелания. Я, по "
                                 "возможности, отвечу Вам."));
@@ -100,7 +102,10 @@ private Q_SLOTS:
         QCOMPARE(about.Label2->text(), QStringLiteral("Version 2.1-beta, platform Win9x/NT"));
         QCOMPARE(about.Label3->text(), QStringLiteral("Author of program: Anna"));
         QCOMPARE(about.Label4->text(), someone.email);
-        QVERIFY(about.Label5->text().contains(QStringLiteral("free of charge")));
+        QCOMPARE(about.Label5->text(),
+                 QStringLiteral("This program is distributed free of charge and \"as is\": its "
+                                "author accepts no responsibility for the consequences of using "
+                                "it."));
         QCOMPARE(about.Label6->text(),
                  QStringLiteral("If you have any questions, comments or suggestions, please mail "
                                 "them to me at the address above. I will try to fix any bugs or "
