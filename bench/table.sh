@@ -75,6 +75,7 @@ page down among 1,000,000 chord types / scales / tunings|1xPageDown/0 1xPageDown
 to the end or the beginning of these|1xEndAndHome/0 1xEndAndHome/1 1xEndAndHome/2|ms|100
 a letter typed that none of these begins with|1xSearchByLetter/0 1xSearchByLetter/1 1xSearchByLetter/2|ms|100
 settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|ms|30 / 150
+help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
 1,000 codes written|1xWriteThousandCodes|ms|50
 first note begun (elapsed)|FirstNote|ms|150

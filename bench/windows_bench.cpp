@@ -1,7 +1,8 @@
-// Opening the settings dialog, and the sheet's long texts.
+// Opening the settings dialog and the help, and the sheet's long texts.
 #include "controls/application.h"
 #include "diagrams/frmdiags.h"
 #include "diagrams/sheetfile.h"
+#include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/recordingsound.h"
 
@@ -31,6 +32,19 @@ void OpenSettings(benchmark::State& state) {
     }
 }
 BENCHMARK(OpenSettings)->Arg(36)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+// At the English heading, which is in the middle of the text.
+void OpenHelp(benchmark::State& state) {
+    AppState shared;
+    shared.AppPath = QStringLiteral(PROGRAM_FOLDER "/");
+    shared.LanguageFile = shared.AppPath + QStringLiteral("english.lng");
+    for (auto _ : state) {
+        frmHelp help(shared, [] { return ChordRows{12, 50}; });
+        help.show();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(OpenHelp)->Unit(benchmark::kMillisecond);
 
 void OpenLongestSheet(benchmark::State& state) {
     const QTemporaryDir folder;

@@ -23,6 +23,7 @@ constexpr QColor selection(0x8C, 0x4A, 0x1C); // Behind the selected row; white 
 constexpr QColor selectionText(0xFF, 0xFF, 0xFF);
 constexpr QColor focus(0x1F, 0x5F, 0xAE);           // The ring around what the keyboard works on.
 constexpr QColor focusOnPictures(0xFF, 0xFF, 0xFF); // Beside that ring where all is dark.
+constexpr QColor found(0xFF, 0xD9, 0x66); // Behind words that were looked for.
 constexpr QColor toolTip(0xFF, 0xFB, 0xE6);
 
 // Prescribed on the instruments.

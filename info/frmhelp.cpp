@@ -6,13 +6,16 @@
 #include "controls/twips.h"
 #include "core/language.h"
 #include "core/mdlmain.h"
+#include "info/findbar.h"
 #include "info/frmabout.h"
 #include "info/helptext.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTextDocument>
+#include <QTextBlock>
 
 #include <algorithm>
 
@@ -34,6 +37,7 @@ frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Au
     : InfoWindow(QStringLiteral("frmHelp"), parent),
       Text1(new QPlainTextEdit(this)),
       Command1(new GoldButton(QStringLiteral("Command1"), this)),
+      picFind(new FindBar(*Text1, state.InterfaceTongue(), this)),
       m_state(state),
       m_chordRows(std::move(chordRows)),
       m_author(std::move(author)) {
@@ -46,10 +50,12 @@ frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Au
     // With a caret, so that a screen reader can follow the keyboard through the text.
     Text1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     Handle(Command1, &GoldButton::Click, this, &frmHelp::Command1_Click);
-    setTabOrder(Text1, Command1);
+    setTabOrder(Text1, picFind->txtFind);
+    setTabOrder(picFind->txtFind, Command1);
     setTabOrder(Command1, cmdOK);
     Form_Load();
     OpenAtTextWidth();
+    GoTo({});
     Text1->setFocus();
 }
 
@@ -66,6 +72,33 @@ void frmHelp::Form_Load() {
         Phrase{QStringLiteral("Текст справки"), QStringLiteral("Help text")}.In(tongue));
     cmdOK->setAccessibleDescription(
         Phrase{QStringLiteral("Закрыть окно"), QStringLiteral("Close the window")}.In(tongue));
+}
+
+void frmHelp::GoTo(std::optional<Chapter> chapter) {
+    m_firstLine = LineOf(Text1->toPlainText(), chapter, m_state.InterfaceTongue());
+    ScrollTo(m_firstLine);
+}
+
+void frmHelp::ScrollTo(int line) {
+    const QTextBlock block = Text1->document()->findBlockByNumber(line);
+    Text1->setTextCursor(QTextCursor(block));
+    Text1->verticalScrollBar()->setValue(block.firstLineNumber());
+}
+
+void frmHelp::showEvent(QShowEvent* event) {
+    InfoWindow::showEvent(event);
+    if (!event->spontaneous()) // Only now does the text know how much of it is in sight.
+        ScrollTo(m_firstLine);
+}
+
+void frmHelp::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Find)) {
+        picFind->Open();
+    } else if (event->key() == Qt::Key_Escape && picFind->IsOpen()) {
+        picFind->Close();
+    } else {
+        InfoWindow::keyPressEvent(event);
+    }
 }
 
 void frmHelp::Command1_Click() {
@@ -89,6 +122,8 @@ void frmHelp::Form_Resize() {
     const int right = text.x() + text.width();
     cmdOK->move(right - cmdOK->width(), top);
     Command1->move(cmdOK->x() - toPixels(buttonGap) - Command1->width(), top);
+    picFind->setGeometry(text.x(), top, Command1->x() - toPixels(buttonGap) - text.x(),
+                         cmdOK->height());
 }
 
 void frmHelp::resizeEvent(QResizeEvent* event) {

@@ -10,11 +10,12 @@ HelpOpener::~HelpOpener() {
     delete m_help;
 }
 
-void HelpOpener::Show() {
+void HelpOpener::Show(const QWidget* control) {
     if (m_help.isNull()) {
         m_help = new frmHelp(m_state, m_chordRows);
         m_help->setAttribute(Qt::WA_DeleteOnClose);
     }
+    m_help->GoTo(ChapterAbout(control));
     if (m_help->isMinimized())
         m_help->showNormal();
     m_help->show();

@@ -19,9 +19,10 @@ public:
     HelpOpener(const HelpOpener&) = delete;
     HelpOpener& operator=(const HelpOpener&) = delete;
 
-    // Shows the help and returns at once; brings it to the front where it is open already.
-    // Both are a run-time error where help.dat cannot be read, and show nothing then.
-    void Show();
+    // Shows the help at the chapter about this control (none: at the beginning) and returns at
+    // once; brings it to the front where it is open already. Both are a run-time error where
+    // help.dat cannot be read, and show nothing then.
+    void Show(const QWidget* control = nullptr);
 
     // Shows the help and returns when it is closed. A help that is open gives way.
     void ShowModal();

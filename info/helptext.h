@@ -4,7 +4,7 @@
 #include "core/phrase.h"
 
 // Laying out one endless line, or endlessly many lines, would keep the window from opening.
-constexpr qsizetype longestHelpLine = 10'000;
+constexpr qsizetype longestHelpLine = 30'000;
 constexpr qsizetype mostHelpLines = 1'000'000;
 
 // The text of the help file in this folder, or the text that says that it is missing.

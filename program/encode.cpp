@@ -1,5 +1,5 @@
-// Turns a text of the repository (UTF-8, LF) into a file of the program (code page 1251,
-// CR LF), or says which characters the page does not have and writes nothing.
+// Turns texts of the repository (UTF-8, LF), one after another, into a file of the program (code
+// page 1251, CR LF), or says which characters the page does not have and writes nothing.
 #include "core/codepage.h"
 
 #include <QDir>
@@ -35,26 +35,39 @@ QStringList Faults(const QString& file, const QStringList& lines) {
     return faults;
 }
 
+// The source's lines, or what is wrong with it.
+struct Source {
+    QStringList lines;
+    QString fault;
+};
+
+Source Read(const QString& name) {
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        return {{}, QStringLiteral("cannot read ") + name};
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8.decode(file.readAll());
+    if (utf8.hasError())
+        return {{}, name + QStringLiteral(": not UTF-8")};
+    const QStringList lines = text.remove(u'\r').split(u'\n');
+    return {lines, Faults(name, lines).join(u'\n')};
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3)
-        return Fail(QStringLiteral("usage: encode SOURCE TARGET"));
-    QFile source(QString::fromLocal8Bit(argv[1]));
-    if (!source.open(QIODevice::ReadOnly))
-        return Fail(QStringLiteral("cannot read ") + source.fileName());
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    QString text = utf8.decode(source.readAll());
-    if (utf8.hasError())
-        return Fail(source.fileName() + QStringLiteral(": not UTF-8"));
-    const QStringList lines = text.remove(u'\r').split(u'\n');
-    if (const QStringList faults = Faults(source.fileName(), lines); !faults.isEmpty())
-        return Fail(faults.join(u'\n'));
-
-    QSaveFile target(QString::fromLocal8Bit(argv[2]));
+    if (argc < 3)
+        return Fail(QStringLiteral("usage: encode SOURCE... TARGET"));
+    QByteArray bytes;
+    for (int source = 1; source < argc - 1; ++source) {
+        const auto [lines, fault] = Read(QString::fromLocal8Bit(argv[source]));
+        if (!fault.isEmpty())
+            return Fail(fault);
+        bytes += ToAnsi(lines.join(QStringLiteral("\r\n")));
+    }
+    QSaveFile target(QString::fromLocal8Bit(argv[argc - 1]));
     QDir().mkpath(QFileInfo(target.fileName()).path());
-    if (!target.open(QIODevice::WriteOnly) ||
-        target.write(ToAnsi(lines.join(QStringLiteral("\r\n")))) < 0 || !target.commit())
+    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) < 0 || !target.commit())
         return Fail(QStringLiteral("cannot write ") + target.fileName());
     return EXIT_SUCCESS;
 }

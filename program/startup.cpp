@@ -87,7 +87,7 @@ void StartUp::ConnectWindows() {
         if (modal)
             m_help->ShowModal();
         else
-            m_help->Show();
+            m_help->Show(QApplication::focusWidget());
     });
     Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
     Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });

@@ -15,7 +15,7 @@ QString WithoutLineEnds(QString text) {
 extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     static const Folder folder;
     static const QByteArray third(longestHelpLine / 3, '-');
-    const QByteArray bytes = Input(data, size).Rest().left(200).replace('\t', third);
+    const QByteArray bytes = Input(data, size).Rest().left(50).replace('\t', third);
     folder.Write(QStringLiteral("help.dat"), bytes);
     const QString text = ReadHelp(folder.Path());
     Require(ToAnsi(text) == bytes, "the file is read whole");

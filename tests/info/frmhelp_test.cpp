@@ -21,6 +21,10 @@
 
 namespace {
 
+const QByteArray filling(60, '\n');
+const QByteArray longManual = "top\n" + filling + "5. RUSSIAN\n" + filling + "ENGLISH MANUAL\n" +
+                              filling + "5. CHORDS\n" + filling + "9. BARRE\n" + filling;
+
 ChordRows SomeRows() {
     return {12, 40};
 }
@@ -97,7 +101,7 @@ private Q_SLOTS:
         help.grab();
         // Far more than it takes, far less than laying out one endless line.
         QVERIFY(taken.elapsed() < 30'000);
-        QVERIFY(help.Text1->blockCount() > 100);
+        QVERIFY(help.Text1->blockCount() > 50);
     }
 
     void TheCaptionsAreBuiltIn() {
@@ -229,6 +233,41 @@ private Q_SLOTS:
         QCOMPARE(OpenHelp()->Text1->toPlainText(), QStringLiteral("new"));
     }
 
+    void ItOpensAtTheManualInTheLanguageInUse_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("built-in Russian: the top") << defaultLanguage << QStringLiteral("top");
+        QTest::newRow("a language file: the English heading")
+            << QStringLiteral("/nowhere/serbian.lng") << QStringLiteral("ENGLISH MANUAL");
+    }
+    void ItOpensAtTheManualInTheLanguageInUse() {
+        QFETCH(const QString, language);
+        QFETCH(const QString, line);
+        WriteFile("help.dat", longManual);
+        m_state.LanguageFile = language;
+        frmHelp help(m_state, SomeRows);
+        ShowActive(help);
+        QCOMPARE(TopLine(help), line);
+        QCOMPARE(help.Text1->toPlainText().toLatin1(), longManual);
+    }
+
+    void BesideTheMainWindowItOpensAtTheChapterAboutTheFocus() {
+        WriteFile("help.dat", longManual);
+        m_state.LanguageFile = QStringLiteral("/nowhere/english.lng");
+        QWidget mainWindow;
+        mainWindow.setObjectName(QStringLiteral("frmMain"));
+        auto* list = new QWidget(&mainWindow);
+        list->setObjectName(QStringLiteral("lstBarre"));
+        HelpOpener opener(m_state, SomeRows, &mainWindow);
+        opener.Show(list);
+        QCOMPARE(TopLine(*OpenHelp()), QStringLiteral("9. BARRE"));
+        list->setObjectName(QStringLiteral("lstType"));
+        opener.Show(list);
+        QCOMPARE(TopLine(*OpenHelp()), QStringLiteral("5. CHORDS"));
+        opener.Show();
+        QCOMPARE(TopLine(*OpenHelp()), QStringLiteral("ENGLISH MANUAL"));
+    }
+
     void ItOpensAboveTheMainWindow() {
         QWidget mainWindow;
         HelpOpener opener(m_state, SomeRows, &mainWindow);
@@ -254,6 +293,11 @@ private:
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("cannot write");
         return file.fileName();
+    }
+
+    // The first line in sight.
+    static QString TopLine(const frmHelp& help) {
+        return help.Text1->cursorForPosition(QPoint(2, 2)).block().text();
     }
 
     static frmHelp* OpenHelp() {

@@ -44,6 +44,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("nothing") << QString();
         QTest::newRow("CR LF, LF and CR") << QStringLiteral("a\r\nb\nc\rd\r\n\r\n");
+        QTest::newRow("a line of 20,000 letters") << QString(20'000, u'x');
         QTest::newRow("the longest line") << QString(longestHelpLine, u'x') +
                                                  QStringLiteral("\r\n") +
                                                  QString(longestHelpLine, u'y');

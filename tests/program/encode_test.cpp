@@ -13,16 +13,19 @@ struct Outcome {
     QByteArray bytes;
 };
 
-Outcome Encode(const QByteArray& source) {
+Outcome Encode(const QList<QByteArray>& sources) {
     const QTemporaryDir folder;
-    const QString from = folder.filePath(QStringLiteral("a.txt"));
-    QFile text(from);
-    if (!text.open(QIODevice::WriteOnly) || text.write(source) != source.size())
-        return {};
-    text.close();
+    QStringList arguments;
+    for (const QByteArray& source : sources) {
+        const QString name = QStringLiteral("%1.txt").arg(arguments.size());
+        QFile text(folder.filePath(name));
+        if (!text.open(QIODevice::WriteOnly) || text.write(source) != source.size())
+            return {};
+        arguments += text.fileName();
+    }
     QProcess tool;
     QFile target(folder.filePath(QStringLiteral("made/here/a.lng")));
-    tool.start(QStringLiteral(ENCODE), {from, target.fileName()});
+    tool.start(QStringLiteral(ENCODE), arguments << target.fileName());
     if (!tool.waitForFinished() || tool.exitStatus() != QProcess::NormalExit)
         return {};
     return {tool.exitCode(), QString::fromUtf8(tool.readAllStandardError()), target.exists(),
@@ -50,25 +53,32 @@ private Q_SLOTS:
     void TextsAreEncoded() {
         QFETCH(const QByteArray, source);
         QFETCH(const QByteArray, bytes);
-        const Outcome outcome = Encode(source);
+        const Outcome outcome = Encode({source});
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.report, QString());
         QVERIFY(outcome.written);
         QCOMPARE(outcome.bytes.toHex(), bytes.toHex());
     }
 
+    void SeveralTextsBecomeOneFile() {
+        const Outcome outcome = Encode({"a\n", "\xEF\xBB\xBF"
+                                               "b\n"});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.bytes, QByteArray("a\r\nb\r\n"));
+    }
+
     void ACharacterOutsideThePageIsNamed() {
-        const Outcome outcome = Encode("Лад\nB♭ и 𝄞\nné\n");
+        const Outcome outcome = Encode({"Лад\nB♭ и 𝄞\nné\n"});
         QVERIFY(outcome.status > 0);
         QVERIFY(!outcome.written);
         QVERIFY(outcome.report.contains(
-            QStringLiteral("a.txt:2: not in the code page: “♭” (U+266d), “𝄞” (U+1d11e)\n")));
+            QStringLiteral("0.txt:2: not in the code page: “♭” (U+266d), “𝄞” (U+1d11e)\n")));
         QVERIFY(outcome.report.contains(
-            QStringLiteral("a.txt:3: not in the code page: “é” (U+00e9)\n")));
+            QStringLiteral("0.txt:3: not in the code page: “é” (U+00e9)\n")));
     }
 
     void BytesThatAreNotUtf8AreRefused() {
-        const Outcome outcome = Encode("\xCB\xE0\xE4\n");
+        const Outcome outcome = Encode({"\xCB\xE0\xE4\n"});
         QVERIFY(outcome.status > 0);
         QVERIFY(!outcome.written);
         QVERIFY(outcome.report.contains(QStringLiteral("not UTF-8")));
