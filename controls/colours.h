@@ -1,30 +1,59 @@
-// Every colour of the windows, in one place. Light whatever the desktop wears, so that the
-// black, blue and red of the instruments read well.
+// Every colour of the windows, in one place: a light variant and a dark one.
 #pragma once
 
+#include <QBrush>
 #include <QColor>
+
+enum class Scheme { Light, Dark };
 
 namespace Colours {
 
+// The scheme that every shade is seen in. It only changes what is painted from now on: whoever
+// sets it paints the windows anew.
+Scheme CurrentScheme();
+void UseScheme(Scheme scheme);
+
+// One colour in both schemes; used where a colour is asked, it is that of the scheme in use.
+class Shade {
+public:
+    constexpr Shade(QRgb light, QRgb dark) : m_light(light), m_dark(dark) {}
+
+    QColor In(Scheme scheme) const { return QColor(scheme == Scheme::Dark ? m_dark : m_light); }
+    QColor Now() const { return In(CurrentScheme()); }
+    operator QColor() const { return Now(); }
+    operator QBrush() const { return Now(); }
+
+private:
+    QRgb m_light;
+    QRgb m_dark;
+};
+
 // Windows and controls.
-constexpr QColor window(0xF6, 0xF2, 0xEA);
-constexpr QColor field(0xFF, 0xFE, 0xFB); // Lists and text boxes.
-constexpr QColor fieldStripe(0xF4, 0xEF, 0xE4);
-constexpr QColor text(0x22, 0x1D, 0x18);
-constexpr QColor quietText(0x5E, 0x54, 0x49); // Captions of frames, hints: 6.5 to 1 on window.
-constexpr QColor mutedText(0x70, 0x67, 0x5C); // Disabled controls, muted strings.
-constexpr QColor frame(0xF3, 0xEE, 0xE5);     // Inside a frame.
-constexpr QColor line(0xCD, 0xC2, 0xB0);      // Frames and dividers.
-constexpr QColor buttonFace(0xEF, 0xE8, 0xDB);
-constexpr QColor buttonLight(0xFF, 0xFF, 0xFF);
-constexpr QColor buttonShadow(0xA8, 0x9B, 0x87);
-constexpr QColor buttonDark(0x6B, 0x60, 0x52);
-constexpr QColor selection(0x8C, 0x4A, 0x1C); // Behind the selected row; white text on it.
-constexpr QColor selectionText(0xFF, 0xFF, 0xFF);
-constexpr QColor focus(0x1F, 0x5F, 0xAE);           // The ring around what the keyboard works on.
-constexpr QColor focusOnPictures(0xFF, 0xFF, 0xFF); // Beside that ring where all is dark.
-constexpr QColor found(0xFF, 0xD9, 0x66); // Behind words that were looked for.
-constexpr QColor toolTip(0xFF, 0xFB, 0xE6);
+constexpr Shade window(0xF6F2EA, 0x24211D);
+constexpr Shade field(0xFFFEFB, 0x1A1815); // Lists and text boxes.
+constexpr Shade fieldStripe(0xF4EFE4, 0x211E1A);
+constexpr Shade text(0x221D18, 0xEDE6DA);
+constexpr Shade quietText(0x5E5449, 0xBDB2A2); // Captions of frames, hints.
+constexpr Shade mutedText(0x6D6459, 0xABA193); // Disabled controls, muted strings.
+constexpr Shade frame(0xF3EEE5, 0x2A2621);     // Inside a frame.
+constexpr Shade line(0xCDC2B0, 0x4A433A);      // Frames and dividers: they part, they mark nothing.
+constexpr Shade edge(0x8C806E, 0x8C8171);      // Around what can be operated.
+constexpr Shade buttonFace(0xEFE8DB, 0x3A342C);
+constexpr Shade buttonLight(0xFFFFFF, 0x5B5246);
+constexpr Shade buttonShadow(0xA89B87, 0x16130F);
+constexpr Shade buttonDark(0x6B6052, 0x0C0A08);
+constexpr Shade selection(0x8C4A1C, 0xE2A45C); // Behind the selected row, and what stands out.
+constexpr Shade selectionText(0xFFFFFF, 0x1C140A);
+constexpr Shade focus(0x1F5FAE, 0x7DB4F0); // The ring around what the keyboard works on.
+constexpr Shade found(0xFFD966, 0x7A5A12); // Behind words that were looked for.
+constexpr Shade toolTip(0xFFFBE6, 0x3B352C);
+constexpr Shade paper(0xFFFEFB, 0xFFFEFB); // Behind the prescribed black, blue and red.
+
+// On the wood of the neck, which is the same in both.
+constexpr QColor focusOnPictures(0xFF, 0xFF, 0xFF); // Beside the ring where all is dark.
+constexpr QColor onWood(0xFF, 0xFE, 0xFB);
+constexpr QColor onWoodText(0x22, 0x1D, 0x18);
+constexpr QColor onWoodRing(0x1F, 0x5F, 0xAE);
 
 // Prescribed on the instruments.
 constexpr QColor mark(0xFF, 0x00, 0x00);

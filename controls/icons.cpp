@@ -91,7 +91,7 @@ void PaintQuestionMark(QPainter& painter, QPointF centre, double height) {
     QPainterPath hook(QPointF(-2.6, -2.6));
     hook.cubicTo(-2.4, -5.6, 2.7, -5.6, 2.7, -2.4);
     hook.cubicTo(2.7, -0.4, 0, -0.2, 0, 2);
-    painter.setPen({Colours::selection, 1.9, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
+    painter.setPen({Colours::selection.Now(), 1.9, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin});
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(hook);
     Fill(painter);

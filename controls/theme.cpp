@@ -46,10 +46,8 @@ public:
     }
 };
 
-} // namespace
-
-void ApplyTheme() {
-    QPalette palette(Colours::buttonFace, Colours::window);
+QPalette ThemePalette() {
+    QPalette palette(Colours::buttonFace.Now(), Colours::window.Now());
     palette.setColor(QPalette::WindowText, Colours::text);
     palette.setColor(QPalette::Text, Colours::text);
     palette.setColor(QPalette::ButtonText, Colours::text);
@@ -68,6 +66,17 @@ void ApplyTheme() {
     palette.setColor(QPalette::Link, Colours::focus);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, Colours::mutedText);
+    return palette;
+}
+
+} // namespace
+
+void ApplyTheme() {
     QApplication::setStyle(new Style);
-    QApplication::setPalette(palette);
+    ShowScheme(Scheme::Light);
+}
+
+void ShowScheme(Scheme scheme) {
+    Colours::UseScheme(scheme);
+    QApplication::setPalette(ThemePalette());
 }

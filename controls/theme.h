@@ -1,5 +1,10 @@
 // The look that all windows share.
 #pragma once
 
-// Gives the application its own style and palette on any desktop.
+#include "controls/colours.h"
+
+// Gives the application its own style and its light colours on any desktop.
 void ApplyTheme();
+
+// Shows all windows, also those that are open, in the scheme.
+void ShowScheme(Scheme scheme);

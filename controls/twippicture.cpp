@@ -165,7 +165,7 @@ void TwipPicture::PaintFocus(QPainter& painter, const QRectF& part) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
     const QRectF ring = ToPixels(part).adjusted(2, 2, -2, -2);
-    for (const QPen& pen : {QPen(Colours::focusOnPictures, 4), QPen(Colours::focus, 2)}) {
+    for (const QPen& pen : {QPen(Colours::focusOnPictures, 4), QPen(Colours::onWoodRing, 2)}) {
         painter.setPen(pen);
         if (!part.isEmpty())
             painter.drawRect(ring);

@@ -38,7 +38,7 @@ protected:
         const double top = row / 2;
         const double bottom = height() - top;
         for (int i = 0; i <= frets; ++i) {
-            painter.setPen(QPen(i == 0 ? Colours::buttonDark : Colours::line, i == 0 ? 4 : 2));
+            painter.setPen(QPen(i == 0 ? Colours::buttonDark.Now() : Colours::line.Now(), i == 0 ? 4 : 2));
             const double x = 2 + i * fret;
             painter.drawLine(QPointF(x, top), QPointF(x, bottom));
         }
@@ -137,7 +137,7 @@ void frmSplash::AddText(const QString& name, const QString& text, const QRect& t
 
 void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), Colours::window);
+    painter.fillRect(rect(), Colours::window.Now());
     painter.setPen(Colours::buttonShadow);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -66,7 +66,7 @@ void PaintKey(QPainter& painter, const KeyboardView& view, int key) {
 } // namespace
 
 void PaintKeyboard(QPainter& painter, const KeyboardView& view) {
-    painter.fillRect(QRectF(QPointF(0, 0), KeyboardLayout::size), Colours::window);
+    painter.fillRect(QRectF(QPointF(0, 0), KeyboardLayout::size), Colours::window.Now());
     for (const bool black : {false, true})
         for (int key = 0; key < keyCount; ++key)
             if (IsBlackKey(key) == black)

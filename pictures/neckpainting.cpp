@@ -131,14 +131,14 @@ void PaintFinger(QPainter& painter, const QRectF& disc) {
 
 // Where the next click would set a finger, and the note that it would give.
 void PaintPointed(QPainter& painter, const QRectF& disc, const QString& note) {
-    painter.setPen(QPen(Colours::focus, 20));
-    painter.setBrush(Colours::field);
+    painter.setPen(QPen(Colours::onWoodRing, 20));
+    painter.setBrush(Colours::onWood);
     painter.drawEllipse(disc);
     QFont font = painter.font();
     font.setPixelSize(note.size() > 1 ? 135 : 165);
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(Colours::text);
+    painter.setPen(Colours::onWoodText);
     painter.drawText(disc, Qt::AlignCenter, note);
 }
 
@@ -151,7 +151,7 @@ void PaintBarre(QPainter& painter, const QRectF& bar) {
 } // namespace
 
 void PaintNeck(QPainter& painter, bool thinStringAtBottom) {
-    painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::window);
+    painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::window.Now());
     PaintWood(painter);
     PaintInlays(painter);
     PaintFrets(painter);

@@ -163,7 +163,7 @@ void GoldButtonTest::Defaults() {
 
 void GoldButtonTest::ColoursAsQtColours() {
     QCOMPARE(m_button->property("HoverColor").value<QColor>(), QColor(0, 0, 255));
-    QCOMPARE(m_button->property("ForeColor").value<QColor>(), Colours::text);
+    QCOMPARE(m_button->property("ForeColor").value<QColor>(), Colours::text.Now());
     QVERIFY(m_button->setProperty("HoverColor", QColor(1, 2, 3)));
     QCOMPARE(m_button->HoverColor().value, 0x00030201U);
     QVERIFY(m_button->setProperty("DownColor", 0x000000FFU));
@@ -326,18 +326,18 @@ void GoldButtonTest::EdgeFlags_data() {
     QTest::addColumn<QColor>("topLeft");
     QTest::addColumn<QColor>("bottomRight");
     QTest::addColumn<QColor>("innerTopLeft");
-    QTest::newRow("none") << 0 << Colours::buttonFace << Colours::buttonFace << Colours::buttonFace;
-    QTest::newRow("raised outer") << 1 << Colours::window << Colours::buttonDark
-                                  << Colours::buttonFace;
-    QTest::newRow("sunken outer") << 2 << Colours::buttonShadow << Colours::buttonLight
-                                  << Colours::buttonFace;
+    QTest::newRow("none") << 0 << Colours::buttonFace.Now() << Colours::buttonFace.Now() << Colours::buttonFace.Now();
+    QTest::newRow("raised outer") << 1 << Colours::window.Now() << Colours::buttonDark.Now()
+                                  << Colours::buttonFace.Now();
+    QTest::newRow("sunken outer") << 2 << Colours::buttonShadow.Now() << Colours::buttonLight.Now()
+                                  << Colours::buttonFace.Now();
     QTest::newRow("raised inner alone")
-        << 4 << Colours::buttonLight << Colours::buttonShadow << Colours::buttonFace;
+        << 4 << Colours::buttonLight.Now() << Colours::buttonShadow.Now() << Colours::buttonFace.Now();
     QTest::newRow("sunken inner alone")
-        << 8 << Colours::buttonDark << Colours::window << Colours::buttonFace;
-    QTest::newRow("raised") << 5 << Colours::window << Colours::buttonDark << Colours::buttonLight;
-    QTest::newRow("sunken") << 10 << Colours::buttonShadow << Colours::buttonLight
-                            << Colours::buttonDark;
+        << 8 << Colours::buttonDark.Now() << Colours::window.Now() << Colours::buttonFace.Now();
+    QTest::newRow("raised") << 5 << Colours::window.Now() << Colours::buttonDark.Now() << Colours::buttonLight.Now();
+    QTest::newRow("sunken") << 10 << Colours::buttonShadow.Now() << Colours::buttonLight.Now()
+                            << Colours::buttonDark.Now();
 }
 
 void GoldButtonTest::EdgeFlags() {
@@ -400,7 +400,7 @@ void GoldButtonTest::SkinParts() {
         const QImage image = Painted(*m_button);
         // Two pixels all around, corners included, and nothing inside.
         const int all = 2 * 2 * (120 + 40) - 4 * 4;
-        return PixelsOf(image, colour) == all && image.pixelColor(60, 2) == Colours::buttonFace;
+        return PixelsOf(image, colour) == all && image.pixelColor(60, 2) == Colours::buttonFace.Now();
     };
     QVERIFY(border(Qt::green));
     SendMove({5, 5});
