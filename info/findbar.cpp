@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -101,7 +102,10 @@ void FindBar::ShowHit() {
     hit.setPosition(m_hits[m_shown]);
     hit.setPosition(m_hits[m_shown] + static_cast<int>(txtFind->text().size()),
                     QTextCursor::KeepAnchor);
+    const int top = m_text.verticalScrollBar()->value();
     m_text.setTextCursor(hit);
+    if (m_text.verticalScrollBar()->value() != top)
+        m_text.centerCursor(); // With what stands around it.
     const Phrase place{QStringLiteral("%1 из %2"), QStringLiteral("%1 of %2")};
     const QString count = QString::number(m_hits.size()) + (m_hits.size() == mostHits ? u"+" : u"");
     lblFound->setText(place.In(m_tongue).arg(m_shown + 1).arg(count));

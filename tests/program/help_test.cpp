@@ -88,6 +88,23 @@ private Q_SLOTS:
             }
     }
 
+    void EveryKeyNamedAnywhereIsOnThePageOfKeys() {
+        const QRegularExpression key(QStringLiteral("(?:(?:Ctrl|Shift|Alt)\\+)+\\w+|\\bF\\d+\\b"),
+                                     QRegularExpression::UseUnicodePropertiesOption);
+        const QString pages =
+            ChapterText(m_text, static_cast<int>(Chapter::Keys), Tongue::Russian) +
+            ChapterText(m_text, static_cast<int>(Chapter::Keys), Tongue::English);
+        auto keys = key.globalMatch(m_text);
+        QVERIFY(keys.hasNext());
+        while (keys.hasNext()) {
+            const QString name = keys.next().captured();
+            QVERIFY2(pages.contains(lineEnd + QStringLiteral("  ") + name + QStringLiteral("  ")) ||
+                         pages.contains(name + QStringLiteral(" - назад")) ||
+                         pages.contains(name + QStringLiteral(" for the one")),
+                     qPrintable(name));
+        }
+    }
+
     void AChapterThatIsReferredToExists() {
         const QRegularExpression reference(
             QStringLiteral("(?:глава|главы|chapter|chapters) (\\d+)(?: (?:и|and) (\\d+))?"));
