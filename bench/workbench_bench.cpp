@@ -3,6 +3,7 @@
 #include "core/chordtypes.h"
 #include "core/scales.h"
 #include "core/tunings.h"
+#include "music/names.h"
 #include "music/spelling.h"
 #include "pictures/keyboardpainting.h"
 #include "pictures/neckpainting.h"
@@ -137,6 +138,69 @@ void FindByName(benchmark::State& state) {
         benchmark::DoNotOptimize(FindChordType(types, QStringLiteral("none")));
 }
 BENCHMARK(FindByName)->Apply(Sizes);
+
+std::vector<Shape> ShapesToName() {
+    std::vector<Shape> shapes;
+    for (const char* frets : {"x32010", "x02213", "xx0101", "000000", "x33333", "0x2343"})
+        shapes.push_back(ReadShape(QString::fromLatin1(frets)).value());
+    return shapes;
+}
+
+void NameShapes(benchmark::State& state, const PlayersNames& names) {
+    AppState shared;
+    LayStrings(shared, standardStrings, true);
+    const Tuning tuning = TuningOf(shared);
+    const std::vector<Shape> shapes = ShapesToName();
+    std::size_t next = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(names.Of(SoundingPitches(shapes[next], tuning)));
+        next = (next + 1) % shapes.size();
+    }
+}
+
+void NameShape(benchmark::State& state) {
+    const TextTable types = BuiltInChordTypes();
+    NameShapes(state, PlayersNames(types));
+}
+BENCHMARK(NameShape);
+
+// A file with every set of notes that there is, over and over.
+TextTable AllTypes(const QTemporaryDir& folder, int records) {
+    QFile file(folder.filePath(QStringLiteral("records.dat")));
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("cannot write the benchmark's file");
+    for (int i = 0; i < records; ++i) {
+        QByteArray structure;
+        int step = 0;
+        for (int interval = 1; interval < notesPerOctave; ++interval) {
+            ++step;
+            if ((i >> (interval - 1) & 1) != 0 && step < 10)
+                structure += QByteArray::number(std::exchange(step, 0));
+        }
+        file.write("Name\r\nalt\r\nsfx\r\n" + structure + "\r\n");
+    }
+    file.close();
+    TextTable types = BuiltInChordTypes();
+    types.AppendDataFile(file.fileName());
+    return types;
+}
+
+void NameShapeAmongMillion(benchmark::State& state) {
+    const QTemporaryDir folder;
+    const TextTable types = AllTypes(folder, 1'000'000);
+    NameShapes(state, PlayersNames(types));
+}
+BENCHMARK(NameShapeAmongMillion);
+
+void IndexNames(benchmark::State& state) {
+    const QTemporaryDir folder;
+    const TextTable types = AllTypes(folder, static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        const PlayersNames names(types);
+        benchmark::DoNotOptimize(names.Of({}));
+    }
+}
+BENCHMARK(IndexNames)->Apply(Sizes);
 
 } // namespace
 
