@@ -1,11 +1,12 @@
 #include "controls/application.h"
 
 #include "controls/accessiblepicture.h"
+#include "controls/focusring.h"
+#include "controls/messagebox.h"
 #include "controls/theme.h"
 #include "core/runtimeerror.h"
 
 #include <QLibraryInfo>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <new>
@@ -18,7 +19,6 @@ void Prepare(QMessageBox& box, const RunTimeError& error, Tongue tongue) {
     box.setObjectName(QStringLiteral("RunTimeError"));
     box.setIcon(QMessageBox::Critical);
     box.setWindowTitle(reportTitle.In(tongue));
-    box.setTextFormat(Qt::PlainText);
     box.setText(error.What().In(tongue));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
@@ -33,6 +33,7 @@ RunTimeError OutOfMemory() {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     ApplyTheme();
     InstallAccessiblePictures();
+    FocusRing::Install();
     setQuitOnLastWindowClosed(false);
 }
 
@@ -45,7 +46,7 @@ void Application::SetTongue(Tongue tongue) {
 }
 
 void Application::Report(const RunTimeError& error) {
-    QMessageBox box(activeWindow());
+    MessageBox box(activeWindow());
     Prepare(box, error, m_tongue);
     box.setInformativeText(
         Phrase{QStringLiteral("Действие прервано. Всё, что сделано, осталось."),
@@ -69,7 +70,7 @@ void Application::Report(const RunTimeError& error) {
 }
 
 void Application::ReportAtStart(const RunTimeError& error) {
-    QMessageBox box;
+    MessageBox box;
     Prepare(box, error, m_tongue);
     box.setInformativeText(Phrase{QStringLiteral("Программа не может начать работу."),
                                   QStringLiteral("The program cannot start.")}

@@ -44,13 +44,13 @@ constexpr Shade buttonShadow(0xA89B87, 0x16130F);
 constexpr Shade buttonDark(0x6B6052, 0x0C0A08);
 constexpr Shade selection(0x8C4A1C, 0xE2A45C); // Behind the selected row, and what stands out.
 constexpr Shade selectionText(0xFFFFFF, 0x1C140A);
-constexpr Shade focus(0x1F5FAE, 0x7DB4F0); // The ring around what the keyboard works on.
-constexpr Shade found(0xFFD966, 0x7A5A12); // Behind words that were looked for.
+constexpr Shade focus(0x1F5FAE, 0x7DB4F0);       // The ring around what the keyboard works on.
+constexpr Shade besideFocus(0xFFFFFF, 0x1A1815); // Inside it: one of the two is seen anywhere.
+constexpr Shade found(0xFFD966, 0x7A5A12);       // Behind words that were looked for.
 constexpr Shade toolTip(0xFFFBE6, 0x3B352C);
 constexpr Shade paper(0xFFFEFB, 0xFFFEFB); // Behind the prescribed black, blue and red.
 
 // On the wood of the neck, which is the same in both.
-constexpr QColor focusOnPictures(0xFF, 0xFF, 0xFF); // Beside the ring where all is dark.
 constexpr QColor onWood(0xFF, 0xFE, 0xFB);
 constexpr QColor onWoodText(0x22, 0x1D, 0x18);
 constexpr QColor onWoodRing(0x1F, 0x5F, 0xAE);

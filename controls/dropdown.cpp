@@ -1,5 +1,6 @@
 #include "controls/dropdown.h"
 
+#include "controls/rowdelegate.h"
 #include "core/runtimeerror.h"
 
 #include <QSignalBlocker>
@@ -9,6 +10,7 @@
 DropDown::DropDown(const QString& name, QWidget* parent) : QComboBox(parent) {
     setObjectName(name);
     setSizeAdjustPolicy(AdjustToContents);
+    setItemDelegate(new RowDelegate(this));
     connect(this, &QComboBox::currentIndexChanged, this, [this](int row) {
         m_rowAtPopup = -1;
         Q_EMIT RowChosen(row);
@@ -39,4 +41,16 @@ void DropDown::SelectRow(int row) {
 void DropDown::showPopup() {
     m_rowAtPopup = currentIndex();
     QComboBox::showPopup();
+}
+
+QSize DropDown::sizeHint() const {
+    constexpr int preferredLetters = 30;
+    return QComboBox::sizeHint().boundedTo(
+        {preferredLetters * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX});
+}
+
+QSize DropDown::minimumSizeHint() const {
+    constexpr int leastLetters = 16;
+    return QComboBox::minimumSizeHint().boundedTo(
+        {leastLetters * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX});
 }

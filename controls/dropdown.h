@@ -1,4 +1,5 @@
-// A drop-down list that tells of every choice, also of the row that is selected already.
+// A drop-down list that tells of every choice, also of the row that is selected already. Long
+// texts widen it only so far; in the open list their ends are read in tool tips.
 #pragma once
 
 #include <QComboBox>
@@ -17,6 +18,8 @@ public:
     void SelectRow(int row);
 
     void showPopup() override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     // Once for each choice or change; -1 when nothing is selected any more.

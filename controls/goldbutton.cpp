@@ -1,5 +1,6 @@
 #include "controls/goldbutton.h"
 
+#include "controls/focusring.h"
 #include "controls/goldbuttonpainting.h"
 #include "core/runtimeerror.h"
 
@@ -78,7 +79,7 @@ GoldButton::State GoldButton::CurrentState() const {
         return State::Disabled;
     if (isDown())
         return State::Down;
-    return m_hovering ? State::Hover : State::Normal;
+    return m_hovering && !m_pressed ? State::Hover : State::Normal;
 }
 
 const QIcon& GoldButton::PictureOf(State state) const {
@@ -114,7 +115,7 @@ void GoldButton::paintEvent(QPaintEvent*) {
     look.picture = PictureOf(state);
     look.pictureSize = PictureSize();
     look.faded = state == State::Disabled && m_pictureDisabled.isNull();
-    look.focused = hasFocus();
+    look.focused = FocusRing::IsShown(this);
     look.captionColour = m_foreColor.In(look.palette);
     if (state == State::Hover)
         look.captionColour = m_hoverColor.In(look.palette);
@@ -148,9 +149,19 @@ void GoldButton::StopHovering() {
     Q_EMIT MouseExit();
 }
 
+void GoldButton::LosePress() {
+    m_lost = m_pressed;
+    m_pressed = false;
+    setDown(false);
+}
+
 void GoldButton::mousePressEvent(QMouseEvent* event) {
     Q_EMIT MouseDown(ButtonNumber(event->button()), ShiftMask(event->modifiers()),
                      event->position().x(), event->position().y());
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = true;
+        m_lost = false;
+    }
     QAbstractButton::mousePressEvent(event);
     event->accept();
 }
@@ -165,15 +176,21 @@ void GoldButton::mouseMoveEvent(QMouseEvent* event) {
         else
             StartHovering();
     }
-    QAbstractButton::mouseMoveEvent(event);
+    if (m_lost)
+        event->ignore(); // The toolkit would take the press up again.
+    else
+        QAbstractButton::mouseMoveEvent(event);
     Q_EMIT MouseMove(ButtonMask(event->buttons()), ShiftMask(event->modifiers()), place.x(),
                      place.y());
 }
 
 void GoldButton::mouseReleaseEvent(QMouseEvent* event) {
     const QPointF place = event->position();
-    if (event->button() == Qt::LeftButton && !hitButton(place.toPoint()))
-        StopHovering();
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = m_lost = false;
+        if (!hitButton(place.toPoint()))
+            StopHovering();
+    }
     QAbstractButton::mouseReleaseEvent(event);
     event->accept();
     Q_EMIT MouseUp(ButtonNumber(event->button()), ShiftMask(event->modifiers()), place.x(),
@@ -187,7 +204,7 @@ void GoldButton::leaveEvent(QEvent* event) {
 
 void GoldButton::focusOutEvent(QFocusEvent* event) {
     m_hovering = false;
-    setDown(false);
+    LosePress();
     QAbstractButton::focusOutEvent(event);
     update();
 }
@@ -200,8 +217,10 @@ void GoldButton::keyPressEvent(QKeyEvent* event) {
 }
 
 void GoldButton::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
         StopHovering();
+        LosePress();
+    }
     QAbstractButton::changeEvent(event);
 }
 

@@ -154,10 +154,13 @@ private:
 
     void StartHovering();
     void StopHovering();
+    void LosePress();
     const QIcon& PictureOf(State state) const;
     QSize PictureSize() const;
 
     bool m_hovering = false;
+    bool m_pressed = false; // With the left button, which is still down.
+    bool m_lost = false;    // That press ended with the focus.
     bool m_captionSet = false;
     int m_alignment = 2;
     OleColor m_hoverColor = OleColor::Rgb(0, 0, 255);

@@ -1,6 +1,7 @@
 #include "controls/goldbuttonpainting.h"
 
-#include "controls/colours.h"
+#include "controls/elided.h"
+#include "controls/focusring.h"
 #include "controls/goldbutton.h"
 
 #include <QPainter>
@@ -15,6 +16,7 @@ static_assert(skinFar + skinBorder == GoldButton::skinStep);
 constexpr int marginX = 9;
 constexpr int marginY = 5;
 constexpr int pictureGap = 6;
+constexpr int mostLetters = 22; // A longer caption widens the button no further and is cut.
 constexpr int captionFlags = Qt::TextSingleLine | Qt::TextShowMnemonic;
 
 void PaintRing(QPainter& painter, const QRect& ring, const QColor& upper, const QColor& lower) {
@@ -94,12 +96,14 @@ void PaintPicture(QPainter& painter, const QRect& place, const GoldButtonLook& l
 
 void PaintCaption(QPainter& painter, const QRect& place, const GoldButtonLook& look) {
     const int flags = captionFlags | Qt::AlignVCenter | Qt::AlignLeft;
+    const QString caption =
+        Elided(look.caption, painter.fontMetrics(), place.width(), Qt::TextShowMnemonic);
     if (look.captionHighlight) {
         painter.setPen(*look.captionHighlight);
-        painter.drawText(place.translated(1, 1), flags, look.caption);
+        painter.drawText(place.translated(1, 1), flags, caption);
     }
     painter.setPen(look.captionColour);
-    painter.drawText(place, flags, look.caption);
+    painter.drawText(place, flags, caption);
 }
 
 } // namespace
@@ -107,7 +111,8 @@ void PaintCaption(QPainter& painter, const QRect& place, const GoldButtonLook& l
 QSize GoldButtonSize(const QString& caption, QSize picture, const QFontMetrics& metrics) {
     QSize size(0, metrics.height());
     if (!caption.isEmpty())
-        size = metrics.size(captionFlags, caption);
+        size.setWidth(TextWidth(caption, metrics, mostLetters * metrics.averageCharWidth(),
+                                Qt::TextShowMnemonic));
     if (picture.isValid()) {
         size.rwidth() += picture.width() + (caption.isEmpty() ? 0 : pictureGap);
         size.setHeight(std::max(size.height(), picture.height()));
@@ -139,8 +144,6 @@ void PaintGoldButton(QPainter& painter, const GoldButtonLook& look) {
     }
     PaintCaption(painter, QRect(x, 0, look.rect.right() - x, look.rect.height()), look);
     if (look.focused) {
-        painter.setPen(QPen(Colours::focus, 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(look.rect.adjusted(2, 2, -3, -3));
+        FocusRing::Paint(painter, QRectF(look.rect).adjusted(2, 2, -2, -2));
     }
 }

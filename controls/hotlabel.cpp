@@ -2,9 +2,7 @@
 
 #include <QMouseEvent>
 
-HotLabel::HotLabel(const QString& name, QWidget* parent) : QLabel(parent) {
-    setObjectName(name);
-    setMouseTracking(true);
+HotLabel::HotLabel(const QString& name, QWidget* parent) : TextLabel(name, parent) {
     setAlignment(Qt::AlignCenter);
     setCursor(Qt::PointingHandCursor);
 }
@@ -19,4 +17,8 @@ void HotLabel::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void HotLabel::mouseMoveEvent(QMouseEvent*) {
     Q_EMIT MouseMove();
+}
+
+void HotLabel::leaveEvent(QEvent*) {
+    Q_EMIT MouseLeave();
 }

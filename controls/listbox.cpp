@@ -1,5 +1,6 @@
 #include "controls/listbox.h"
 
+#include "controls/rowdelegate.h"
 #include "core/runtimeerror.h"
 
 #include <QMouseEvent>
@@ -11,7 +12,8 @@ ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent) {
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true); // A million rows are measured by one of them.
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setItemDelegate(new RowDelegate(this));
     setModel(new QStringListModel(this));
 }
 
@@ -59,13 +61,18 @@ void ListBox::SelectRow(int row) {
         Q_EMIT RowChosen(row);
     else
         setCurrentIndex(model()->index(row, 0));
+    scrollTo(model()->index(row, 0));
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
     const QModelIndex pressed = indexAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || !pressed.isValid())
-        return;
+    if (event->button() == Qt::LeftButton && pressed.isValid())
+        PressRow(pressed, event);
+}
+
+void ListBox::PressRow(const QModelIndex& pressed, QMouseEvent* event) {
     const int before = Row();
+    m_pressedRow = pressed.row();
     QListView::mousePressEvent(event);
     if (pressed.row() == before)
         Q_EMIT RowChosen(before);
@@ -83,8 +90,15 @@ void ListBox::mouseReleaseEvent(QMouseEvent*) {
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex pressed = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && pressed.isValid())
+    if (event->button() != Qt::LeftButton || !pressed.isValid())
+        return;
+    if (pressed.row() == m_pressedRow) {
         Q_EMIT RowDoubleClicked(pressed.row());
+        return;
+    }
+    QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->globalPosition(),
+                      event->button(), event->buttons(), event->modifiers());
+    PressRow(pressed, &press);
 }
 
 void ListBox::focusInEvent(QFocusEvent* event) {

@@ -1,5 +1,6 @@
 // A list box whose rows run a command: by a click, also on the row that is selected
-// already, or by any other change of the selection.
+// already, or by any other change of the selection. A row that is too long shows its end in a
+// tool tip.
 #pragma once
 
 #include <QListView>
@@ -34,7 +35,7 @@ public:
 Q_SIGNALS:
     // Once for each click or change; -1 when nothing is selected any more.
     void RowChosen(int row);
-    void RowDoubleClicked(int row);
+    void RowDoubleClicked(int row); // A second quick click on another row is a click there.
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -50,5 +51,8 @@ protected:
                                                          const QEvent* event) const override;
 
 private:
+    void PressRow(const QModelIndex& pressed, QMouseEvent* event);
+
     bool m_takesFocus = false;
+    int m_pressedRow = -1; // By the last press.
 };

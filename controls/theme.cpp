@@ -1,7 +1,10 @@
 #include "controls/theme.h"
 
 #include "controls/colours.h"
+#include "controls/elided.h"
+#include "controls/focusring.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QGroupBox>
 #include <QPainter>
@@ -9,40 +12,121 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace {
 
-// The toolkit's own style but for two things: its default button looks the same with the focus
-// and without, and its frames are pictures, for which a program without any other would have to
-// load the readers of all kinds of pictures.
+constexpr int frameLetters = 24; // How far a caption widens its frame...
+constexpr int buttonLetters = 22;
+constexpr int optionLetters = 44; // ...or its option.
+
+// The toolkit's own style but for three things: the focus looks the same on every control,
+// captions of any length are cut instead of widening the window for ever, and its frames are
+// pictures, for which a program without any other would have to load the readers of all kinds
+// of pictures.
 class Style : public QProxyStyle {
 public:
     Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        // The focus ring of a list is painted into its frame.
+        return metric == PM_DefaultFrameWidth ? 2
+                                              : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        if (element != CE_PushButton || !option->state.testFlag(State_HasFocus))
+        if (element == CE_PushButton) {
+            QStyleOptionButton button = *static_cast<const QStyleOptionButton*>(option);
+            button.state.setFlag(State_HasFocus, false);
+            QProxyStyle::drawControl(element, &button, painter, widget);
+        } else {
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+        if ((element == CE_PushButton || element == CE_ShapedFrame) && FocusRing::IsShown(widget))
+            FocusRing::Paint(*painter, QRectF(option->rect));
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override {
+        if (control != CC_ComboBox) {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
             return;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(Colours::focus, 2));
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 2, 2);
-        painter->restore();
+        }
+        QStyleOptionComboBox box = *static_cast<const QStyleOptionComboBox*>(option);
+        box.state.setFlag(State_HasFocus, false);
+        QProxyStyle::drawComplexControl(control, &box, painter, widget);
+        if (FocusRing::IsShown(widget))
+            FocusRing::Paint(*painter, QRectF(option->rect));
     }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
-        if (element != PE_FrameGroupBox)
-            return QProxyStyle::drawPrimitive(element, option, painter, widget);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Colours::line);
-        painter->setBrush(Colours::frame);
+        switch (element) {
+        case PE_FrameGroupBox:
+            PaintGroupBox(*option, *painter, widget);
+            break;
+        case PE_FrameFocusRect: // In a list the ring goes around the list.
+            if (FocusRing::IsShown(widget) &&
+                qobject_cast<const QAbstractItemView*>(widget) == nullptr)
+                FocusRing::Paint(*painter, QRectF(option->rect));
+            break;
+        case PE_FrameLineEdit: {
+            QStyleOptionFrame frame = *static_cast<const QStyleOptionFrame*>(option);
+            frame.state.setFlag(State_HasFocus, false);
+            QProxyStyle::drawPrimitive(element, &frame, painter, widget);
+            if (FocusRing::IsShown(widget))
+                FocusRing::Paint(*painter, QRectF(option->rect));
+            break;
+        }
+        default:
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override {
+        const bool severalLines = (flags & Qt::TextWordWrap) != 0 || text.contains(u'\n');
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled,
+                                  severalLines ? text
+                                               : Elided(text, painter->fontMetrics(), rect.width(),
+                                                        flags & Qt::TextShowMnemonic),
+                                  role);
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        const int letter = option->fontMetrics.averageCharWidth();
+        QSize size = contents;
+        if (type == CT_GroupBox)
+            size.setWidth(std::min(size.width(), frameLetters * letter));
+        else if (type == CT_PushButton)
+            size.setWidth(std::min(size.width(), buttonLetters * letter));
+        else if (type == CT_RadioButton || type == CT_CheckBox)
+            size.setWidth(std::min(size.width(), optionLetters * letter));
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+        const bool title = control == CC_GroupBox && part == SC_GroupBoxLabel;
+        return title ? rect.intersected(option->rect) : rect;
+    }
+
+private:
+    static void PaintGroupBox(const QStyleOption& option, QPainter& painter,
+                              const QWidget* widget) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Colours::line);
+        painter.setBrush(Colours::frame);
         const auto* box = qobject_cast<const QGroupBox*>(widget);
         const bool titled = box != nullptr && !box->title().isEmpty();
-        const int above = titled ? option->fontMetrics.height() + 3 : 3;
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, above + 0.5, -0.5, -0.5), 3, 3);
-        painter->restore();
+        const int above = titled ? option.fontMetrics.height() + 3 : 3;
+        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, above + 0.5, -0.5, -0.5), 3, 3);
+        painter.restore();
     }
 };
 

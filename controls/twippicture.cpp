@@ -2,11 +2,12 @@
 
 #include "controls/accessiblepicture.h"
 #include "controls/application.h"
-#include "controls/colours.h"
+#include "controls/focusring.h"
 
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -15,7 +16,7 @@ TwipPicture::TwipPicture(const QString& name, QSizeF size, int pageUp, QWidget* 
     setObjectName(name);
     setMouseTracking(true);
     setCursor(Qt::PointingHandCursor);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -46,6 +47,9 @@ void TwipPicture::MoveFocusTo(int part) {
 }
 
 void TwipPicture::mousePressEvent(QMouseEvent* event) {
+    m_held.Press();
+    if (event->button() != Qt::RightButton) // That one clears and works on no part.
+        setFocus(Qt::MouseFocusReason);
     Q_EMIT MouseDown(event->button(), ToTwips(event->position()));
 }
 
@@ -54,10 +58,12 @@ void TwipPicture::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void TwipPicture::mouseMoveEvent(QMouseEvent* event) {
+    m_held.Move(*event);
     Q_EMIT MouseMove(ToTwips(event->position()));
 }
 
 void TwipPicture::mouseReleaseEvent(QMouseEvent*) {
+    m_held.Release();
     Q_EMIT MouseUp();
 }
 
@@ -159,16 +165,18 @@ void TwipPicture::ShowMenu(const PictureParts& parts) {
         chosen->data().value<std::function<void()>>()();
 }
 
-void TwipPicture::PaintFocus(QPainter& painter, const QRectF& part) const {
-    if (!hasFocus())
-        return;
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::NoBrush);
-    const QRectF ring = ToPixels(part).adjusted(2, 2, -2, -2);
-    for (const QPen& pen : {QPen(Colours::focusOnPictures, 4), QPen(Colours::onWoodRing, 2)}) {
-        painter.setPen(pen);
-        if (!part.isEmpty())
-            painter.drawRect(ring);
-    }
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+QSize TwipPicture::PixelSize() const {
+    const QSizeF pixels = QSizeF(size()) * devicePixelRatioF();
+    return {qCeil(pixels.width()), qCeil(pixels.height())};
+}
+
+QRectF TwipPicture::FocusPlace() const {
+    const auto parts = Parts().parts;
+    const auto index = static_cast<std::size_t>(m_focusPart);
+    return index < parts.size() ? parts[index].place : QRectF();
+}
+
+void TwipPicture::PaintFocus(QPainter& painter, const QPainterPath& part) const {
+    if (FocusRing::IsShown(this))
+        FocusRing::Paint(painter, QTransform::fromScale(Scale(), Scale()).map(part));
 }

@@ -2,8 +2,10 @@
 // can be reached by the keyboard and by a screen reader.
 #pragma once
 
+#include "controls/heldbutton.h"
 #include "controls/picturepart.h"
 
+#include <QPainterPath>
 #include <QWidget>
 
 class TwipPicture : public QWidget {
@@ -33,7 +35,8 @@ public:
     void MoveFocusTo(int part); // A part that is not there changes nothing.
 
 Q_SIGNALS:
-    // Places are in twips. The second press of a double click is a press like any other.
+    // Places are in twips. The second press of a double click is a press like any other, and a
+    // press whose release another window gets ends all the same.
     void MouseDown(Qt::MouseButton button, QPointF place);
     void MouseMove(QPointF place);
     void MouseUp();
@@ -43,6 +46,12 @@ Q_SIGNALS:
     void FocusMoved();
 
 protected:
+    // What a picture kept for painting must hold to reach the last row of pixels.
+    QSize PixelSize() const;
+
+    // The focus part's place, in twips.
+    QRectF FocusPlace() const;
+
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -52,9 +61,8 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
-    // A ring around the picture and one around the part, unless that is empty; nothing
-    // without the focus.
-    void PaintFocus(QPainter& painter, const QRectF& part) const;
+    // The ring inside the part's visible area, in twips; nothing where the focus is not shown.
+    void PaintFocus(QPainter& painter, const QPainterPath& part) const;
 
 private:
     bool RunKey(int key);
@@ -66,4 +74,5 @@ private:
     int m_pageUp;
     std::function<PictureParts()> m_parts;
     int m_focusPart = 0;
+    HeldButton m_held{this, [this] { Q_EMIT MouseUp(); }};
 };

@@ -1,7 +1,8 @@
 #include "controls/upscrollbar.h"
 
-#include "controls/colours.h"
+#include "controls/focusring.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 UpScrollBar::UpScrollBar(const QString& name, int least, int most, QWidget* parent)
@@ -16,28 +17,38 @@ UpScrollBar::UpScrollBar(const QString& name, int least, int most, QWidget* pare
 }
 
 void UpScrollBar::mousePressEvent(QMouseEvent* event) {
-    m_pressed = true;
+    m_held.Press();
     QScrollBar::mousePressEvent(event);
 }
 
 void UpScrollBar::mouseReleaseEvent(QMouseEvent* event) {
     QScrollBar::mouseReleaseEvent(event);
-    m_pressed = false;
+    m_held.Release();
+}
+
+void UpScrollBar::mouseMoveEvent(QMouseEvent* event) {
+    m_held.Move(*event);
+    QScrollBar::mouseMoveEvent(event);
+}
+
+void UpScrollBar::LetGo() {
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), mapToGlobal(QPointF()),
+                        Qt::LeftButton, Qt::NoButton, {});
+    QScrollBar::mouseReleaseEvent(&release);
 }
 
 // The toolkit's scroll bar looks the same with the focus.
 void UpScrollBar::paintEvent(QPaintEvent* event) {
     QScrollBar::paintEvent(event);
-    if (!hasFocus())
+    if (!FocusRing::IsShown(this))
         return;
     QPainter painter(this);
-    painter.setPen(QPen(Colours::focus, 2));
-    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    FocusRing::Paint(painter, QRectF(rect()));
 }
 
 // The toolkit turns keys and wheel round, but never the arrows.
 void UpScrollBar::TurnStep(int action) {
-    if (!m_pressed)
+    if (!m_held.IsHeld())
         return;
     if (action == SliderSingleStepAdd)
         setSliderPosition(value() - singleStep());

@@ -2,6 +2,8 @@
 // turned up and the key Up raise it.
 #pragma once
 
+#include "controls/heldbutton.h"
+
 #include <QScrollBar>
 
 class UpScrollBar : public QScrollBar {
@@ -11,10 +13,13 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void TurnStep(int action);
+    void LetGo();
 
-    bool m_pressed = false; // The steps that come in are the arrows' and the groove's.
+    // While it is, the steps that come in are the arrows' and the groove's.
+    HeldButton m_held{this, [this] { LetGo(); }};
 };

@@ -1,9 +1,25 @@
 #include "pictures/pickeyboard.h"
 
+#include "controls/colours.h"
 #include "pictures/keyboardlayout.h"
 #include "pictures/keyboardpainting.h"
 
 #include <QPainter>
+
+namespace {
+
+// The key without what the black keys beside it hide.
+QPainterPath VisibleArea(int key) {
+    QPainterPath area;
+    area.addRect(KeyboardLayout::KeyRect(key));
+    QPainterPath above;
+    for (int black = 0; black < keyCount; ++black)
+        if (IsBlackKey(black) && !IsBlackKey(key))
+            above.addRect(KeyboardLayout::KeyRect(black));
+    return area.subtracted(above);
+}
+
+} // namespace
 
 PicKeyboard::PicKeyboard(QWidget* parent)
     : TwipPicture(QStringLiteral("picKeyboard"), KeyboardLayout::size, notesPerOctave, parent) {}
@@ -17,10 +33,11 @@ void PicKeyboard::Show(const KeyboardView& view) {
 }
 
 void PicKeyboard::paintEvent(QPaintEvent*) {
-    const QSize pixels = size() * devicePixelRatio();
+    const QSize pixels = PixelSize();
     if (m_picture.size() != pixels) {
         m_picture = QPixmap(pixels);
         m_picture.setDevicePixelRatio(devicePixelRatio());
+        m_picture.fill(Colours::window.Now()); // The keys end somewhere within the last row of pixels.
         QPainter painter(&m_picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());
@@ -28,5 +45,5 @@ void PicKeyboard::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_picture);
-    PaintFocus(painter, KeyboardLayout::KeyRect(FocusPart()));
+    PaintFocus(painter, VisibleArea(FocusPart()));
 }

@@ -1,5 +1,6 @@
 #include "pictures/picstrings.h"
 
+#include "controls/colours.h"
 #include "pictures/neckpainting.h"
 
 #include <QPainter>
@@ -17,10 +18,11 @@ void PicStrings::Show(const FretboardView& view) {
 }
 
 void PicStrings::paintEvent(QPaintEvent*) {
-    const QSize pixels = size() * devicePixelRatio();
+    const QSize pixels = PixelSize();
     if (m_neck.size() != pixels) {
         m_neck = QPixmap(pixels);
         m_neck.setDevicePixelRatio(devicePixelRatio());
+        m_neck.fill(Colours::window.Now()); // The neck ends somewhere within the last row of pixels.
         QPainter painter(&m_neck);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());
@@ -33,11 +35,10 @@ void PicStrings::paintEvent(QPaintEvent*) {
     painter.scale(Scale(), Scale());
     PaintMarks(painter, m_view);
     painter.restore();
-    if (FocusPart() < stringCount)
-        PaintFocus(painter, FretboardLayout::RowRect(stringCount - 1 - FocusPart()));
-    else if (m_view.barre)
-        // Around the bar, whose own area is a mark.
-        PaintFocus(painter, FretboardLayout::BarreRect(*m_view.barre).adjusted(-75, -75, 75, 75));
-    else
-        PaintFocus(painter, {});
+    QRectF focus = FocusPlace();
+    if (FocusPart() == stringCount) // The barre is taken hold of anywhere in its column.
+        focus = {focus.left(), 0, focus.width(), FretboardLayout::size.height()};
+    QPainterPath area;
+    area.addRect(focus);
+    PaintFocus(painter, area);
 }

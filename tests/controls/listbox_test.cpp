@@ -23,6 +23,9 @@ private Q_SLOTS:
     void TypingFindsARow();
     void SelectingNothingTellsIt();
     void TheFocusChoosesNothing();
+    void ASecondQuickClickChoosesItsRow();
+    void ASecondClickOnTheSameRowIsADoubleClick();
+    void WhatIsSelectedAgainComesIntoSight();
 
 private:
     QPoint Centre(int row) const {
@@ -142,6 +145,36 @@ void ListBoxTest::TheFocusChoosesNothing() {
     QTest::keyClick(m_list.get(), Qt::Key_Down);
     QCOMPARE(m_list->Row(), 0);
     QCOMPARE(m_chosen, std::vector{0});
+}
+
+// A click, the wheel, and a click at once: for the toolkit a double click.
+void ListBoxTest::ASecondQuickClickChoosesItsRow() {
+    QSignalSpy doubled(m_list.get(), &ListBox::RowDoubleClicked);
+    Click(Centre(2));
+    QTest::mouseDClick(m_list->viewport(), Qt::LeftButton, {}, Centre(3));
+    QCOMPARE(m_list->Row(), 3);
+    QCOMPARE(m_chosen, (std::vector{2, 3}));
+    QCOMPARE(doubled.size(), 0);
+}
+
+void ListBoxTest::ASecondClickOnTheSameRowIsADoubleClick() {
+    QSignalSpy doubled(m_list.get(), &ListBox::RowDoubleClicked);
+    Click(Centre(2));
+    QTest::mouseDClick(m_list->viewport(), Qt::LeftButton, {}, Centre(2));
+    QCOMPARE(doubled.size(), 1);
+    QCOMPARE(doubled.first().first().toInt(), 2);
+}
+
+void ListBoxTest::WhatIsSelectedAgainComesIntoSight() {
+    QStringList rows;
+    for (int row = 0; row < 100; ++row)
+        rows += QString::number(row);
+    m_list->SetTexts(rows);
+    m_list->SelectRow(1);
+    m_list->verticalScrollBar()->setValue(m_list->verticalScrollBar()->maximum());
+    QVERIFY(!m_list->viewport()->rect().contains(Centre(1)));
+    m_list->SelectRow(1);
+    QVERIFY(m_list->viewport()->rect().contains(Centre(1)));
 }
 
 QTEST_MAIN(ListBoxTest)

@@ -1,0 +1,19 @@
+// The rows of a list: a text too long for its list is cut in painting, and its tool tip shows it
+// to its end.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    // As high as a line; the list decides how wide.
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
