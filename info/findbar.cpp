@@ -114,7 +114,7 @@ void FindBar::ShowHit() {
 void FindBar::Mark() {
     QTextEdit::ExtraSelection mark;
     mark.format.setBackground(Colours::found);
-    mark.format.setForeground(Colours::normalText);
+    mark.format.setForeground(Colours::text);
     mark.cursor = QTextCursor(m_text.document());
     QList<QTextEdit::ExtraSelection> marks;
     for (const int hit : m_hits) {
