@@ -54,6 +54,8 @@ int NextFret(PitchClass open, const std::vector<int>& markedKeys, int current, i
 struct MissingNotes {
     QString text;             // Per marked key its name, or nothing if it sounds, and a blank.
     bool rootMissing = false; // The lowest marked note is among them.
+
+    bool operator==(const MissingNotes&) const = default;
 };
 
 MissingNotes FindMissingNotes(const std::vector<int>& markedKeys, const RowNotes& sounding);

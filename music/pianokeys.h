@@ -39,10 +39,14 @@ public:
     // Ascending.
     std::vector<int> Marked() const;
 
+    bool operator==(const PianoKeys&) const = default;
+
 private:
     struct Key {
         Rgb fill;
         Rgb saved;
+
+        bool operator==(const Key&) const = default;
     };
 
     Key& At(int key);

@@ -1,5 +1,7 @@
 #include "pictures/fretboardlayout.h"
 
+#include <cmath>
+
 double FretboardLayout::StringY(int row) {
     return highestString + (stringCount - 1 - row) * rowHeight;
 }
@@ -22,6 +24,20 @@ QRectF FretboardLayout::BarreRect(Barre barre) {
     constexpr double bottom = 2160;
     const double top = (stringCount - (barre.lastRow + 1)) * rowHeight + 200;
     return {MarkCentre(0, barre.fret).x() - markSize / 2, top, markSize, bottom - top};
+}
+
+bool FretboardLayout::IsOnBarre(Barre barre, double x) {
+    const QRectF bar = BarreRect(barre);
+    return bar.left() < x && x < bar.right();
+}
+
+int FretboardLayout::BarreStep(Barre barre, double x) {
+    // Wide enough that the barre, once it has moved, does not jump back at once.
+    constexpr double deadZone = 400;
+    const double distance = x - BarreRect(barre).center().x();
+    if (std::abs(distance) <= deadZone)
+        return 0;
+    return distance > 0 ? 1 : -1;
 }
 
 QRectF FretboardLayout::RowRect(int row) {

@@ -30,6 +30,12 @@ struct FretboardLayout {
     // The bar from just above its last row down past row 0.
     static QRectF BarreRect(Barre barre);
 
+    // Whether x takes hold of the bar: anywhere in its column, also above a short one.
+    static bool IsOnBarre(Barre barre, double x);
+
+    // By how many frets, -1, 0 or 1, a drag to x moves the bar: only where that is far from it.
+    static int BarreStep(Barre barre, double x);
+
     // The row of a string across the board.
     static QRectF RowRect(int row);
 

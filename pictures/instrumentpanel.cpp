@@ -1,5 +1,8 @@
 #include "pictures/instrumentpanel.h"
 
+#include "controls/colours.h"
+#include "controls/labellook.h"
+#include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 
 #include <cmath>
@@ -49,6 +52,29 @@ InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
     // Raised last: the picture lies over the first 15 twips of the labels around it.
     picStrings = new PicStrings(this);
     picKeyboard = new PicKeyboard(this);
+}
+
+void InstrumentPanel::ShowLabels(const LabelsView& view) {
+    const auto colour = [](bool lit) { return lit ? Colours::highlight : Colours::normalText; };
+    for (int fret = 1; fret <= fretLabels; ++fret)
+        SetTextColour(Label3[static_cast<std::size_t>(fret - 1)], colour(view.litFret == fret));
+    for (int row = 0; row < stringCount; ++row) {
+        const auto index = static_cast<std::size_t>(row);
+        QLabel* label = Label4[index];
+        label->setText(view.notes[index]);
+        label->setProperty("Tag", view.soundNumbers[index]);
+        label->setEnabled(!view.muted[index]);
+        SetStruckOut(label, view.muted[index]);
+        SetTextColour(label, colour(view.litRow == row));
+    }
+}
+
+void InstrumentPanel::ShowHint(const QString& hint) {
+    lblHint->setText(
+        hint.isEmpty() ? hint // No font is loaded for nothing.
+                       : lblHint->fontMetrics().elidedText(hint, Qt::ElideRight, lblHint->width()));
+    lblHint->setToolTip(lblHint->text() == hint ? QString() : hint);
+    lblHint->setAccessibleName(hint);
 }
 
 QSize InstrumentPanel::SizeAt(double scale) {

@@ -24,6 +24,12 @@ public:
     // The panel's size when a twip is scale / 15 pixels: 1 is the size at 96 dpi.
     static QSize SizeAt(double scale);
 
+    // Writes the labels around the pictures.
+    void ShowLabels(const LabelsView& view);
+
+    // Shows a line of text on lblHint, cut where it is too long.
+    void ShowHint(const QString& hint);
+
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 

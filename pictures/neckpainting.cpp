@@ -1,6 +1,8 @@
 #include "pictures/neckpainting.h"
 
 #include "controls/colours.h"
+#include "music/shape.h"
+#include "pictures/fretboardlayout.h"
 
 #include <QPainter>
 #include <QPainterPath>

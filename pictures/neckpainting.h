@@ -1,7 +1,7 @@
 // Painting the fretboard, in twips.
 #pragma once
 
-#include "pictures/picstrings.h"
+#include "pictures/instrumentviews.h"
 
 class QPainter;
 

@@ -2,17 +2,9 @@
 #pragma once
 
 #include "controls/twippicture.h"
-#include "music/pianokeys.h"
+#include "pictures/instrumentviews.h"
 
 #include <QPixmap>
-
-// What the picture shows.
-struct KeyboardView {
-    std::array<Rgb, keyCount> fills{};
-    std::optional<int> soundingKey;
-
-    bool operator==(const KeyboardView&) const = default;
-};
 
 class PicKeyboard : public TwipPicture {
 public:

@@ -1,6 +1,7 @@
 #include "pictures/picstrings.h"
 
 #include "controls/colours.h"
+#include "pictures/fretboardlayout.h"
 #include "pictures/neckpainting.h"
 
 #include <QPainter>

@@ -2,23 +2,28 @@
 // goes to the workbench; ShowState alone writes its state into the controls.
 #pragma once
 
-#include "controls/dropdown.h"
-#include "controls/goldbutton.h"
-#include "controls/listbox.h"
-#include "pictures/instrumentpanel.h"
 #include "sound/playback.h"
-#include "workbench/workbench.h"
+#include "workbench/choosegroup.h"
+#include "workbench/heargroup.h"
+#include "workbench/moregroup.h"
+#include "workbench/pictureparts.h"
+#include "workbench/seegroup.h"
+#include "workbench/trygroup.h"
 
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QScrollBar>
 #include <QWidget>
 
 #include <functional>
 
 class LanguageTexts;
 
-class frmMain : public QWidget {
+// The groups are bases for their controls to be the window's own. Their order is the order in
+// which Tab goes through them.
+class frmMain : public QWidget,
+                public ChooseGroup,
+                public SeeGroup,
+                public TryGroup,
+                public HearGroup,
+                public MoreGroup {
     Q_OBJECT
 
 public:
@@ -50,23 +55,23 @@ public:
     // Asked when the window is about to close; false keeps it open.
     void SetMayEnd(std::function<bool()> mayEnd) { m_mayEnd = std::move(mayEnd); }
 
+    // Shows the text on the line under the fret numbers until the next command: news that
+    // nobody has to answer.
+    void ShowNotice(const Phrase& notice);
+
+    Workbench& State() { return m_workbench; }
+
+    // Choose.
     void lstBase_Click(int row);
     void lstType_Click(int row);
     void lstType_DblClick();
     void lstLad_Click(int row);
-    void lstBarre_Click(int row);
-    void lstLadBarre_Click(int row);
     void cmdFind_Click();
-    void cmdFindChord_Click();
-    void cmdFindNew_Click();
-    void cmdMakeBarre_Click();
-    void Command1_Click();
-    void Command2_Click();
-    void GoldButton1_Click();
-    void GoldButton2_Click();
-    void GoldButton3_Click();
-    void VScroll3_Change(int value);
 
+    // See.
+    void cmdFindChord_Click();
+
+    // Point at the pictures and the labels around them. Places are in twips.
     void picStrings_MouseDown(Qt::MouseButton button, QPointF place);
     void picStrings_MouseMove(QPointF place);
     void picStrings_MouseUp();
@@ -80,52 +85,25 @@ public:
     void Label6_MouseMove(int index);
     void Form_MouseMove();
 
+    // Try.
+    void VScroll3_Change(int value);
+    void cmdFindNew_Click();
+    void cmdMakeBarre_Click();
+    void lstBarre_Click(int row);
+    void lstLadBarre_Click(int row);
+    void Command1_Click();
+    void Command2_Click();
+
+    // Hear.
+    void GoldButton1_Click();
+    void GoldButton2_Click();
+    void GoldButton3_Click();
+
     // Runs the key's command. shift: 1 Shift, 2 Ctrl, 4 Alt. False for a key that has none.
     bool Form_KeyDown(int key, int shift);
 
-    // Shows the text on the line under the fret numbers until the next command: news that
-    // nobody has to answer.
-    void ShowNotice(const Phrase& notice);
-
-    Workbench& State() { return m_workbench; }
-
-    QGroupBox* Frame1;
-    QGroupBox* Frame2;
-    QGroupBox* Frame3;
-    QGroupBox* Frame4;
-    QGroupBox* Frame5;
-    ListBox* lstBase;
-    ListBox* lstType;
-    ListBox* lstLad;
-    QLineEdit* txtFind;
-    GoldButton* cmdFind;
-    QLabel* Label1;
-    QLabel* lblChord;
-    GoldButton* cmdFindChord;
-    InstrumentPanel* panel;
-    QLabel* Label2;
-    QLabel* lblKeys;
-    QLabel* Label5;
-    QLabel* Label7;
-    QLabel* lblNoS;
-    QLineEdit* txtStr;
-    QScrollBar* VScroll3;
-    GoldButton* cmdFindNew;
-    GoldButton* cmdMakeBarre;
-    DropDown* lstBarre;
-    DropDown* lstLadBarre;
-    GoldButton* GoldButton1;
-    GoldButton* GoldButton2;
-    GoldButton* GoldButton3;
-    DropDown* lstWhat;
-    DropDown* lstTemp;
-    GoldButton* Command1;
-    GoldButton* Command2;
-    GoldButton* cmdNewDiag;
-    GoldButton* cmdSettings;
-    GoldButton* cmdHelp;
-
 Q_SIGNALS:
+    void StateShown(); // After a command, when the controls show what it did.
     void HelpAsked(bool modal);
     void SettingsAsked();
     void DiagramsAsked();
@@ -136,34 +114,35 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void CreateControls();
-    void ShowBuiltInTexts();
     void LayOut();
-    void Connect();
-    void ArrowKey(int key, int shift);
+    void ShowBuiltInTexts();
+    void ConnectChoose();
+    void ConnectSee();
+    void ConnectPoint();
+    void ConnectTry();
+    void ConnectHear();
+    void ConnectMore();
     void StepRow(ListBox& list, int step, int rows);
+    void StepRoot(int step);
+    void StepType(int step);
     void StepString(int step);
+    void StepBarre(int step);
     void ShowInstruments();
-    void ShowNotes();
-    void ShowHighlights();
-    void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
+    void ShowLabels();
     void ShowHint();
     QString Hint();
+    void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
+    bool IsOnBarre(double x) const;
 
-    // What the pictures' parts are called and do.
-    PictureParts FretboardParts();
-    PictureParts KeyboardParts();
-    PicturePart StringPart(int row);
-    PicturePart BarrePart();
-    PicturePart KeyPart(int key);
-
-    // The same for the commands of the fretboard, which ignore a run-time error.
+    // The same as Do for the commands of the fretboard, which ignore a run-time error.
     void DoQuietly(const std::function<void()>& command);
 
     AppState& m_state;
     Workbench& m_workbench;
     Playback m_playback;
     std::function<bool()> m_mayEnd;
+    FretboardCommands m_fretboardCommands;
+    KeyboardCommands m_keyboardCommands;
 
     bool BarreDragging = false;
     int LastFretLabel = 0;

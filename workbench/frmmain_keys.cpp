@@ -6,9 +6,11 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace {
 
-enum Modifier { none = 0, shiftKey = 1, ctrlKey = 2, altKey = 4 };
+enum Modifier { any = -1, none = 0, shiftKey = 1, ctrlKey = 2, altKey = 4 };
 
 int ModifierMask(Qt::KeyboardModifiers modifiers) {
     return (modifiers.testFlag(Qt::ShiftModifier) ? shiftKey : none) |
@@ -33,66 +35,44 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool frmMain::Form_KeyDown(int key, int shift) {
-    switch (key) {
-    case Qt::Key_F1:
-        Q_EMIT HelpAsked(false);
-        return true;
-    case Qt::Key_F2:
-        cmdMakeBarre_Click();
-        return true;
-    case Qt::Key_F3:
-        if (shift == shiftKey)
-            cmdFindChord_Click();
-        else
-            cmdFind_Click();
-        return true;
-    case Qt::Key_F4:
-        cmdFindNew_Click();
-        return true;
-    case Qt::Key_F5:
-        GoldButton1_Click();
-        return true;
-    case Qt::Key_F6:
-        GoldButton2_Click();
-        return true;
-    case Qt::Key_F7:
-        GoldButton3_Click();
-        return true;
-    case Qt::Key_F8:
-        Command1_Click();
-        return true;
-    case Qt::Key_F9:
-        Command2_Click();
-        return true;
-    case Qt::Key_F10:
-        Q_EMIT SettingsAsked();
-        return true;
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        // The lists must not react to the arrow as well.
+    struct Command {
+        int key;
+        int shift; // The modifiers that it wants, or any.
+        void (*run)(frmMain& window);
+    };
+    // The first row that fits is run.
+    static constexpr std::array commands{
+        Command{Qt::Key_F1, any, [](frmMain& window) { Q_EMIT window.HelpAsked(false); }},
+        Command{Qt::Key_F2, any, [](frmMain& window) { window.cmdMakeBarre_Click(); }},
+        Command{Qt::Key_F3, shiftKey, [](frmMain& window) { window.cmdFindChord_Click(); }},
+        Command{Qt::Key_F3, any, [](frmMain& window) { window.cmdFind_Click(); }},
+        Command{Qt::Key_F4, any, [](frmMain& window) { window.cmdFindNew_Click(); }},
+        Command{Qt::Key_F5, any, [](frmMain& window) { window.GoldButton1_Click(); }},
+        Command{Qt::Key_F6, any, [](frmMain& window) { window.GoldButton2_Click(); }},
+        Command{Qt::Key_F7, any, [](frmMain& window) { window.GoldButton3_Click(); }},
+        Command{Qt::Key_F8, any, [](frmMain& window) { window.Command1_Click(); }},
+        Command{Qt::Key_F9, any, [](frmMain& window) { window.Command2_Click(); }},
+        Command{Qt::Key_F10, any, [](frmMain& window) { Q_EMIT window.SettingsAsked(); }},
+        Command{Qt::Key_Down, ctrlKey, [](frmMain& window) { window.StepRoot(1); }},
+        Command{Qt::Key_Up, ctrlKey, [](frmMain& window) { window.StepRoot(-1); }},
+        Command{Qt::Key_Down, altKey, [](frmMain& window) { window.StepType(1); }},
+        Command{Qt::Key_Up, altKey, [](frmMain& window) { window.StepType(-1); }},
+        Command{Qt::Key_Down, shiftKey, [](frmMain& window) { window.StepString(-1); }},
+        Command{Qt::Key_Up, shiftKey, [](frmMain& window) { window.StepString(1); }},
+        Command{Qt::Key_Left, shiftKey, [](frmMain& window) { window.StepBarre(-1); }},
+        Command{Qt::Key_Right, shiftKey, [](frmMain& window) { window.StepBarre(1); }},
+    };
+    const bool arrow =
+        key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
+    if (arrow) // The lists must not react to it as well.
         panel->picStrings->setFocus();
-        ArrowKey(key, shift);
-        return true;
-    default:
-        return false;
-    }
-}
-
-void frmMain::ArrowKey(int key, int shift) {
-    const int step = key == Qt::Key_Down ? 1 : -1;
-    if (key == Qt::Key_Left || key == Qt::Key_Right) {
-        const int row = lstLadBarre->currentIndex() + (key == Qt::Key_Right ? 1 : -1);
-        if (shift == shiftKey && row >= 0 && row < barreFrets)
-            lstLadBarre->SelectRow(row);
-    } else if (shift == ctrlKey) {
-        StepRow(*lstBase, step, notesPerOctave);
-    } else if (shift == altKey) {
-        StepRow(*lstType, step, lstType->RowCount());
-    } else if (shift == shiftKey) {
-        StepString(-step);
-    }
+    const auto* command = std::find_if(commands.begin(), commands.end(), [=](const Command& row) {
+        return row.key == key && (row.shift == shift || row.shift == any);
+    });
+    if (command == commands.end())
+        return arrow;
+    command->run(*this);
+    return true;
 }
 
 void frmMain::StepRow(ListBox& list, int step, int rows) {
@@ -101,8 +81,22 @@ void frmMain::StepRow(ListBox& list, int step, int rows) {
         list.SelectRow(row);
 }
 
+void frmMain::StepRoot(int step) {
+    StepRow(*lstBase, step, notesPerOctave);
+}
+
+void frmMain::StepType(int step) {
+    StepRow(*lstType, step, lstType->RowCount());
+}
+
 void frmMain::StepString(int step) {
     const double number = LeadingNumber(txtStr->text());
     if (step < 0 ? number >= 2 : number <= stringCount - 1)
         txtStr->setText(QString::number(number + step, 'g', 15));
+}
+
+void frmMain::StepBarre(int step) {
+    const int row = lstLadBarre->currentIndex() + step;
+    if (row >= 0 && row < barreFrets)
+        lstLadBarre->SelectRow(row);
 }

@@ -5,7 +5,8 @@
 #include "core/runtimeerror.h"
 #include "core/scales.h"
 #include "music/spelling.h"
-#include "pictures/fretboardlayout.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -17,7 +18,7 @@ void CheckRow(int row) {
 
 } // namespace
 
-Workbench::Workbench(AppState& state) : m_state(state) {}
+Workbench::Workbench(const AppState& state) : m_state(&state) {}
 
 void Workbench::ChooseRoot(int row, const QString& name) {
     m_rootRow = row;
@@ -40,7 +41,7 @@ void Workbench::ChooseType(int row) {
 }
 
 void Workbench::NameChosenChord() {
-    m_chordName = m_rootName + m_state.ChordTypes.Field(ChordType::Suffix, m_typeRow + 1);
+    m_chordName = m_rootName + m_state->ChordTypes.Field(ChordType::Suffix, m_typeRow + 1);
 }
 
 void Workbench::SpellChord() {
@@ -50,7 +51,7 @@ void Workbench::SpellChord() {
     ClearFingering();
     const int root = SemitoneOf(m_rootName).value_or(-1);
     for (const int key :
-         ChordKeys(root, m_state.ChordTypes.Field(ChordType::Structure, m_typeRow + 1)))
+         ChordKeys(root, m_state->ChordTypes.Field(ChordType::Structure, m_typeRow + 1)))
         m_keys.Mark(key);
     ShowMarkedKeyNames();
 }
@@ -59,7 +60,7 @@ void Workbench::ChooseScale(int row, const QString& name) {
     ClearKeyMarks();
     ClearFingering();
     m_keys.Mark(m_rootRow);
-    const QString degrees = m_state.Scales.Field(ScaleDef::Degrees, row + 1);
+    const QString degrees = m_state->Scales.Field(ScaleDef::Degrees, row + 1);
     for (const double step : ScaleSteps(degrees))
         m_keys.Mark(ToInteger16(m_rootRow + step));
     m_chordName = m_rootName + u' ' + name;
@@ -67,11 +68,11 @@ void Workbench::ChooseScale(int row, const QString& name) {
 }
 
 QString Workbench::AlternativeNames() const {
-    return m_state.ChordTypes.Field(ChordType::AltNames, m_typeRow + 1);
+    return m_state->ChordTypes.Field(ChordType::AltNames, m_typeRow + 1);
 }
 
 void Workbench::FindChord() {
-    m_chordName = NameChord(m_keys.Marked(), m_state.ChordTypes);
+    m_chordName = NameChord(m_keys.Marked(), m_state->ChordTypes);
 }
 
 void Workbench::ChooseBarreStrings(int row) {
@@ -96,7 +97,7 @@ void Workbench::SwitchBarre() {
                  QStringLiteral("Barre: how many strings it covers is not chosen (lstBarre).")});
         m_barre = BarreOfLists();
     }
-    SetNotes(OpenNotes(m_state.StringNotes));
+    SetNotes(OpenNotes(m_state->StringNotes));
     PlaceFingers();
 }
 
@@ -111,7 +112,7 @@ void Workbench::PlaceFingers() {
         return;
     // Who lies under the barre is asked of the lists anew, whatever its picture's extent.
     const auto barre = m_barre ? BarreOfLists() : std::nullopt;
-    const Fingering fingering = ::PlaceFingers(OpenNotes(m_state.StringNotes), marked, barre);
+    const Fingering fingering = ::PlaceFingers(OpenNotes(m_state->StringNotes), marked, barre);
     for (std::size_t row = 0; row < stringCount; ++row) {
         m_rows[row].note = fingering[row].note;
         m_rows[row].mark = fingering[row].mark;
@@ -143,7 +144,7 @@ void Workbench::FindNextFret(const QString& stringText) {
     if (marked.empty())
         return;
     StringRow& string = At(row);
-    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(row)]);
+    const auto open = SemitoneOf(m_state->StringNotes[static_cast<std::size_t>(row)]);
     if (!open)
         return;
     const int fret = NextFret(*open, marked, string.currentFret, string.automaticFret);
@@ -167,7 +168,7 @@ void Workbench::PressString(std::optional<int> row, std::optional<int> fret) {
 
 std::optional<PitchClass> Workbench::NoteAt(int row, int fret) const {
     CheckRow(row);
-    const auto open = SemitoneOf(m_state.StringNotes[static_cast<std::size_t>(row)]);
+    const auto open = SemitoneOf(m_state->StringNotes[static_cast<std::size_t>(row)]);
     return open ? std::optional((*open + fret) % notesPerOctave) : std::nullopt;
 }
 
@@ -184,23 +185,10 @@ void Workbench::PressFretNumber(int fret) {
     }
 }
 
-bool Workbench::GrabsBarre(double x) const {
-    if (!m_barre)
-        return false;
-    const QRectF bar = FretboardLayout::BarreRect(*m_barre);
-    return bar.left() < x && x < bar.right();
-}
-
-void Workbench::DragBarre(double x) {
-    // Wide enough that the barre, once it has moved, does not jump back at once.
-    constexpr double deadZone = 400;
-    if (!m_barre)
-        return;
-    const double centre = FretboardLayout::BarreRect(*m_barre).center().x();
-    if (x > centre + deadZone && m_barreFretRow + 1 < barreFrets)
-        ChooseBarreFret(m_barreFretRow + 1);
-    else if (x < centre - deadZone && m_barreFretRow > 0)
-        ChooseBarreFret(m_barreFretRow - 1);
+void Workbench::MoveBarre(int frets) {
+    const int row = m_barreFretRow + frets;
+    if (m_barre && frets != 0 && row >= 0 && row < barreFrets)
+        ChooseBarreFret(row);
 }
 
 void Workbench::ToggleMute(int row) {
@@ -218,7 +206,7 @@ void Workbench::ClearKeyMarks() {
 }
 
 void Workbench::StringsChanged() {
-    SetNotes(OpenNotes(m_state.StringNotes));
+    SetNotes(OpenNotes(m_state->StringNotes));
 }
 
 void Workbench::ClearFingering() {
@@ -226,7 +214,7 @@ void Workbench::ClearFingering() {
     for (StringRow& row : m_rows)
         row.mark.reset();
     const auto barre = m_barre ? BarreOfLists() : std::nullopt;
-    SetNotes(StartingNotes(OpenNotes(m_state.StringNotes), barre));
+    SetNotes(StartingNotes(OpenNotes(m_state->StringNotes), barre));
 }
 
 void Workbench::ShowMarkedKeyNames() {
@@ -251,11 +239,25 @@ RowNotes Workbench::Notes() const {
 
 RowSound Workbench::SoundOfRow(int row) const {
     const StringRow& string = Row(row);
-    return {string.enabled, string.mark, m_state.SoundNumbers[static_cast<std::size_t>(row)]};
+    return {string.enabled, string.mark, m_state->SoundNumbers[static_cast<std::size_t>(row)]};
 }
 
 std::optional<int> Workbench::ShownBarreFret() const {
     return m_barre ? std::optional(m_barreFretRow + 1) : std::nullopt;
+}
+
+Shape Workbench::NeckShape() const {
+    const auto stringOf = [this](int row) { return StringOfRow(row, m_state->ThinStringAtBottom); };
+    Shape shape;
+    for (int row = 0; row < stringCount; ++row)
+        if (Row(row).enabled)
+            shape.frets[static_cast<std::size_t>(stringOf(row) - 1)] =
+                static_cast<std::int8_t>(SoundingFret(SoundOfRow(row), ShownBarreFret()));
+    if (m_barre) {
+        const auto [thinnest, thickest] = std::minmax({stringOf(0), stringOf(m_barre->lastRow)});
+        shape.barres.push_back({.fret = m_barre->fret, .thinnest = thinnest, .thickest = thickest});
+    }
+    return shape;
 }
 
 const StringRow& Workbench::Row(int row) const {
@@ -265,7 +267,7 @@ const StringRow& Workbench::Row(int row) const {
 
 QString Workbench::RowText(int row) const {
     const auto note = Row(row).note;
-    return note ? NoteName(*note).toString() : m_state.StringNotes[static_cast<std::size_t>(row)];
+    return note ? NoteName(*note).toString() : m_state->StringNotes[static_cast<std::size_t>(row)];
 }
 
 StringRow& Workbench::At(int row) {

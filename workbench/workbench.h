@@ -1,9 +1,10 @@
 // The workbench: what is chosen, marked, fingered and muted, and everything that a command
-// does to it. Plain values; the window shows them.
+// does to it. It is a value: a copy keeps a state, and two states can be compared.
 #pragma once
 
 #include "music/fingering.h"
 #include "music/pianokeys.h"
+#include "music/shape.h"
 #include "sound/playback.h"
 
 #include <optional>
@@ -15,14 +16,19 @@ struct StringRow {
     bool enabled = true;            // False for a muted string.
     int currentFret = 0;            // `StringFrets`: where the combination search stands...
     int automaticFret = 0;          // ...and where the automatic fingering put it.
+
+    bool operator==(const StringRow&) const = default;
 };
 
 constexpr int barreFrets = 15;
 
 class Workbench {
 public:
-    // state: what start-up filled; it must outlive the workbench.
-    explicit Workbench(AppState& state);
+    // state: the catalogues and the strings that the commands go by. They are no part of the
+    // value: copies go by the same ones, which must outlive them.
+    explicit Workbench(const AppState& state);
+
+    bool operator==(const Workbench&) const = default;
 
     // Each command may throw a run-time error half way; what it did until then stays.
 
@@ -52,10 +58,8 @@ public:
     void PressFretNumber(int fret);
     void ToggleMute(int row);
 
-    // Whether a press at x (twips) takes hold of the barre, and how a drag moves it: by one
-    // fret each time the pointer is far enough from it, within the frets of its list.
-    bool GrabsBarre(double x) const;
-    void DragBarre(double x);
+    // Moves a barre that stands so many frets up the neck, within the frets of its list.
+    void MoveBarre(int frets);
 
     void ToggleKey(int key);
     void ClearKeyMarks();
@@ -69,6 +73,10 @@ public:
     // What playback asks for.
     RowSound SoundOfRow(int row) const;
     std::optional<int> ShownBarreFret() const;
+
+    // What the left hand does: each string as it sounds, and the barre over the strings that it
+    // spans. Which finger holds which string is not known.
+    Shape NeckShape() const;
 
     // The note of a row stopped at a fret; empty where the open note is no note.
     std::optional<PitchClass> NoteAt(int row, int fret) const;
@@ -98,7 +106,7 @@ private:
     std::optional<Barre> BarreOfLists() const;
     StringRow& At(int row);
 
-    AppState& m_state;
+    const AppState* m_state;
     PianoKeys m_keys;
     std::array<StringRow, stringCount> m_rows;
     std::optional<Barre> m_barre; // As it was when it was switched on.

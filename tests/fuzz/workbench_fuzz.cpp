@@ -108,7 +108,7 @@ void Do(Machine& machine, char command, int n) {
     case 'l':
         return workbench.PressFretNumber(n % barreFrets + 1);
     case 'd':
-        return workbench.DragBarre(FretboardLayout::size.width() * across);
+        return workbench.MoveBarre(n % 3 - 1);
     case 'B':
         return workbench.SwitchBarre();
     case 'n':

@@ -13,6 +13,8 @@ private Q_SLOTS:
     void Rows();
     void Marks();
     void Bars();
+    void HoldOfTheBar();
+    void DraggingTheBar();
     void KeyRects();
     void KeysByZone();
     void KeysBelow();
@@ -48,6 +50,21 @@ void LayoutsTest::Marks() {
 void LayoutsTest::Bars() {
     QCOMPARE(FretboardLayout::BarreRect({1, 5}), QRectF(119.5, 200, 255, 1960));
     QCOMPARE(FretboardLayout::BarreRect({3, 0}), QRectF(119.5 + 960, 2000, 255, 160));
+}
+
+void LayoutsTest::HoldOfTheBar() {
+    QVERIFY(FretboardLayout::IsOnBarre({1, 5}, 247));
+    QVERIFY(!FretboardLayout::IsOnBarre({1, 5}, 247 - 127.5));
+    QVERIFY(!FretboardLayout::IsOnBarre({1, 5}, 247 + 127.5));
+    QVERIFY(!FretboardLayout::IsOnBarre({2, 5}, 247));
+}
+
+void LayoutsTest::DraggingTheBar() {
+    QCOMPARE(FretboardLayout::BarreStep({1, 5}, 247 + 400), 0); // The dead zone.
+    QCOMPARE(FretboardLayout::BarreStep({1, 5}, 247 + 401), 1);
+    QCOMPARE(FretboardLayout::BarreStep({2, 5}, 247 + 80), 0);
+    QCOMPARE(FretboardLayout::BarreStep({2, 5}, 247 + 79), -1);
+    QCOMPARE(FretboardLayout::BarreStep({2, 0}, 9000), 1);
 }
 
 void LayoutsTest::KeyRects() {

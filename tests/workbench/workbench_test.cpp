@@ -53,7 +53,10 @@ private Q_SLOTS:
     void BarreFretWithBarreOff();
     void BarreAtTheFarEnd();
     void FretNumbers();
-    void DraggingTheBarre();
+    void MovingTheBarre();
+    void ACopyKeepsTheState();
+    void ShapeOfTheNeck_data();
+    void ShapeOfTheNeck();
     void PressingStrings();
     void ClearingTheFretboard();
     void Combinations();
@@ -427,23 +430,69 @@ void WorkbenchTest::FretNumbers() {
     QCOMPARE(Notes(), QStringLiteral("E C G E C E"));
 }
 
-void WorkbenchTest::DraggingTheBarre() {
-    QVERIFY(!m_bench->GrabsBarre(247));
+void WorkbenchTest::MovingTheBarre() {
+    m_bench->MoveBarre(1);
+    QCOMPARE(m_bench->BarreFretRow(), 0); // None stands.
     m_bench->SwitchBarre();
-    QVERIFY(m_bench->GrabsBarre(247));
-    QVERIFY(!m_bench->GrabsBarre(247 - 127.5));
-    QVERIFY(!m_bench->GrabsBarre(247 + 127.5));
-    m_bench->DragBarre(247 + 400);
-    QCOMPARE(m_bench->BarreFretRow(), 0); // The dead zone.
-    m_bench->DragBarre(247 + 401);
+    m_bench->MoveBarre(1);
     QCOMPARE(m_bench->BarreFretRow(), 1);
     QCOMPARE(m_bench->ShownBarre()->fret, 2);
     for (int move = 0; move < 20; ++move)
-        m_bench->DragBarre(8000);
+        m_bench->MoveBarre(1);
     QCOMPARE(m_bench->BarreFretRow(), 14);
     for (int move = 0; move < 20; ++move)
-        m_bench->DragBarre(0);
+        m_bench->MoveBarre(-1);
     QCOMPARE(m_bench->BarreFretRow(), 0);
+}
+
+void WorkbenchTest::ACopyKeepsTheState() {
+    const Workbench before = *m_bench;
+    QVERIFY(*m_bench == before);
+    m_bench->ToggleMute(2);
+    QVERIFY(*m_bench != before);
+    m_bench->ToggleMute(2);
+    QVERIFY(*m_bench == before);
+    m_bench->ReadFretboard(); // Marks keys and saves no colour.
+    m_bench->ChooseType(3);
+    m_bench->SwitchBarre();
+    m_bench->PressString(1, 7);
+    const Workbench after = *m_bench;
+    QVERIFY(after != before);
+    *m_bench = before;
+    QVERIFY(*m_bench == before);
+    QCOMPARE(m_bench->ChordName(), before.ChordName());
+    *m_bench = after;
+    QVERIFY(*m_bench == after);
+}
+
+void WorkbenchTest::ShapeOfTheNeck_data() {
+    QTest::addColumn<bool>("thinStringAtBottom");
+    QTest::newRow("thin string at the bottom") << true;
+    QTest::newRow("thin string at the top") << false;
+}
+
+void WorkbenchTest::ShapeOfTheNeck() {
+    QFETCH(bool, thinStringAtBottom);
+    LayStrings(m_state, standardStrings, thinStringAtBottom);
+    m_bench->StringsChanged();
+    const auto row = [&](int string) { return RowOfString(string, thinStringAtBottom); };
+    m_bench->PlaceFingers();
+    QCOMPARE(FretsText(m_bench->NeckShape()), QStringLiteral("032010")); // C, fingered.
+    m_bench->ToggleMute(row(6));
+    m_bench->PressString(row(1), 12);
+    QCOMPARE(FretsText(m_bench->NeckShape()), QStringLiteral("x3201(12)"));
+    m_bench->ToggleMute(row(6));
+    m_bench->ChooseBarreStrings(3);
+    m_bench->ClearKeyMarks();
+    m_bench->ChooseBarreFret(4);
+    m_bench->SwitchBarre();
+    m_bench->PressString(row(1), std::nullopt); // A mark off the board stands for the open string.
+    const Shape shape = m_bench->NeckShape();
+    QCOMPARE(FretsText(shape), QStringLiteral("555550"));
+    QCOMPARE(shape.barres.size(), std::size_t(1));
+    QCOMPARE(shape.barres.front(), (ShapeBarre{.fret = 5,
+                                               .thinnest = thinStringAtBottom ? 1 : 3,
+                                               .thickest = thinStringAtBottom ? 4 : 6}));
 }
 
 void WorkbenchTest::PressingStrings() {

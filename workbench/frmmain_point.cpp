@@ -1,19 +1,42 @@
-// The main window's mouse: presses on the pictures and labels, and what lights up under the
-// pointer.
-#include "workbench/frmmain.h"
-
+// Pointing in the main window: presses on the pictures and on the labels around them, and what
+// lights up under the pointer.
+#include "controls/handle.h"
 #include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
+#include "workbench/frmmain.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
+void frmMain::ConnectPoint() {
+    Handle(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
+    Handle(panel->picStrings, &TwipPicture::MouseMove, this, &frmMain::picStrings_MouseMove);
+    Handle(panel->picStrings, &TwipPicture::MouseUp, this, &frmMain::picStrings_MouseUp);
+    Handle(panel->picStrings, &TwipPicture::MouseLeave, this, &frmMain::picStrings_MouseLeave);
+    Handle(panel->picKeyboard, &TwipPicture::MouseDown, this, &frmMain::picKeyboard_MouseDown);
+    Handle(panel->picKeyboard, &TwipPicture::MouseMove, this, &frmMain::picKeyboard_MouseMove);
+    Handle(panel->picKeyboard, &TwipPicture::MouseLeave, this, &frmMain::picKeyboard_MouseLeave);
+    for (int index = 0; index < InstrumentPanel::fretLabels; ++index) {
+        HotLabel* label = panel->Label3[static_cast<std::size_t>(index)];
+        Handle(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });
+        Handle(label, &HotLabel::MouseMove, this, [this, index] { Label3_MouseMove(index); });
+    }
+    for (int row = 0; row < stringCount; ++row) {
+        HotLabel* label = panel->Label6[static_cast<std::size_t>(row)];
+        Handle(label, &HotLabel::MouseDown, this,
+               [this, row](Qt::MouseButton button) { Label6_MouseDown(row, button); });
+        Handle(label, &HotLabel::MouseMove, this, [this, row] { Label6_MouseMove(row); });
+    }
+}
+
+bool frmMain::IsOnBarre(double x) const {
+    const auto barre = m_workbench.ShownBarre();
+    return barre && FretboardLayout::IsOnBarre(*barre, x);
+}
 
 void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
     if (button == Qt::RightButton) {
         DoQuietly([&] { m_workbench.ClearFretboard(); });
         return;
     }
-    if (m_workbench.GrabsBarre(place.x())) {
+    if (IsOnBarre(place.x())) {
         BarreDragging = true;
         return;
     }
@@ -27,10 +50,11 @@ void frmMain::picStrings_MouseMove(QPointF place) {
     Form_MouseMove();
     const auto row = FretboardLayout::RowAt(place.y());
     const auto fret = FretboardLayout::FretAt(place.x());
-    const bool free = !BarreDragging && !m_workbench.GrabsBarre(place.x());
+    const bool free = !BarreDragging && !IsOnBarre(place.x());
     PointAt(free && row && fret ? std::optional(BoardPlace{*row, *fret}) : std::nullopt, {});
-    if (BarreDragging)
-        DoQuietly([&] { m_workbench.DragBarre(place.x()); });
+    const auto barre = m_workbench.ShownBarre();
+    if (BarreDragging && barre)
+        DoQuietly([&] { m_workbench.MoveBarre(FretboardLayout::BarreStep(*barre, place.x())); });
 }
 
 void frmMain::picStrings_MouseUp() {
@@ -50,7 +74,7 @@ void frmMain::picKeyboard_MouseDown(Qt::MouseButton button, QPointF place) {
 
 void frmMain::picKeyboard_MouseMove(QPointF place) {
     m_fretLabelLit = false;
-    ShowHighlights();
+    ShowLabels();
     PointAt({}, KeyboardLayout::KeyAt(place));
 }
 
@@ -75,7 +99,7 @@ void frmMain::Label3_MouseMove(int index) {
     LastFretLabel = index;
     m_fretLabelLit = true;
     m_stringLabelLit = false;
-    ShowHighlights();
+    ShowLabels();
 }
 
 void frmMain::Label6_MouseDown(int index, Qt::MouseButton button) {
@@ -90,13 +114,13 @@ void frmMain::Label6_MouseDown(int index, Qt::MouseButton button) {
 void frmMain::Label6_MouseMove(int index) {
     LastStringLabel = index;
     m_stringLabelLit = true;
-    ShowHighlights();
+    ShowLabels();
 }
 
 void frmMain::Form_MouseMove() {
     m_fretLabelLit = false;
     m_stringLabelLit = false;
-    ShowHighlights();
+    ShowLabels();
 }
 
 void frmMain::mouseMoveEvent(QMouseEvent*) {

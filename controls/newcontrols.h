@@ -1,0 +1,27 @@
+// Making a window's controls: each is named as its member is, and lets the window see the pointer.
+#pragma once
+
+#include "controls/icons.h"
+
+#include <QString>
+
+class GoldButton;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QWidget;
+
+constexpr int layoutGap = 8; // The grid of all distances in a window, in pixels.
+
+GoldButton* NewCaptionButton(const char16_t* name, QWidget* parent);
+GoldButton* NewPictureButton(const char16_t* name, Icon icon, QWidget* parent);
+QLabel* NewLabel(const char16_t* name, QWidget* parent);
+QGroupBox* NewFrame(const char16_t* name, QWidget* parent);
+QLineEdit* NewTextBox(const char16_t* name, const QString& text, QWidget* parent);
+
+template <typename Layout>
+Layout* Spaced(Layout* layout, int margin) {
+    layout->setSpacing(layoutGap);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    return layout;
+}

@@ -1,0 +1,42 @@
+// What the two pictures and the labels around them show, as plain values. Rows count from the
+// lowest of the fretboard, 0.
+#pragma once
+
+#include "music/fingering.h"
+#include "music/pianokeys.h"
+
+// Where a row and a fret meet; fret 0 lies off the board.
+struct BoardPlace {
+    int row = 0;
+    int fret = 0;
+
+    bool operator==(const BoardPlace&) const = default;
+};
+
+struct FretboardView {
+    std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
+    std::array<bool, stringCount> muted{};
+    std::optional<Barre> barre;
+    std::optional<int> soundingRow;
+    std::optional<BoardPlace> pointed; // Under the pointer...
+    QString pointedNote;               // ...and the note that a click would give.
+    bool thinStringAtBottom = true;
+
+    bool operator==(const FretboardView&) const = default;
+};
+
+struct KeyboardView {
+    std::array<Rgb, keyCount> fills{};
+    std::optional<int> soundingKey;
+
+    bool operator==(const KeyboardView&) const = default;
+};
+
+// The fret numbers and the labels at the rows' ends.
+struct LabelsView {
+    SixTexts notes;        // What each row sounds.
+    SixTexts soundNumbers; // Of its open string.
+    std::array<bool, stringCount> muted{};
+    std::optional<int> litFret; // 1 for the first; under the pointer.
+    std::optional<int> litRow;
+};

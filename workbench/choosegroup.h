@@ -1,0 +1,22 @@
+// The controls for choosing: a root with a type of chord, or with a scale.
+#pragma once
+
+#include "controls/goldbutton.h"
+#include "controls/listbox.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+
+struct ChooseGroup {
+    // Makes the controls as the window's children, and lays them out in their frame.
+    explicit ChooseGroup(QWidget* window);
+
+    QGroupBox* Frame1;
+    ListBox* lstBase;
+    ListBox* lstType;
+    ListBox* lstLad;
+    QLabel* Label5;
+    QLineEdit* txtFind;
+    GoldButton* cmdFind;
+};

@@ -1,0 +1,117 @@
+// Seeing in the main window: the state, written into the controls.
+#include "controls/colours.h"
+#include "controls/handle.h"
+#include "controls/labellook.h"
+#include "controls/plaintext.h"
+#include "music/shape.h"
+#include "pictures/fretboardlayout.h"
+#include "pictures/partnames.h"
+#include "workbench/frmmain.h"
+#include "workbench/views.h"
+
+#include <QSignalBlocker>
+
+void frmMain::ConnectSee() {
+    m_fretboardCommands = {.press =
+                               [this](int row, std::optional<int> fret) {
+                                   DoQuietly([&] { m_workbench.PressString(row, fret); });
+                               },
+                           .nextNote = [this](int row) { Label6_MouseDown(row, Qt::LeftButton); },
+                           .mute = [this](int row) { Label6_MouseDown(row, Qt::RightButton); },
+                           .switchBarre = [this] { cmdMakeBarre_Click(); },
+                           .moveBarre = [this](int fret) { lstLadBarre->SelectRow(fret - 1); },
+                           .clear = [this] { DoQuietly([&] { m_workbench.ClearFretboard(); }); }};
+    m_keyboardCommands = {.toggle = [this](int key) { Do([&] { m_workbench.ToggleKey(key); }); },
+                          .clear = [this] { Do([&] { m_workbench.ClearKeyMarks(); }); }};
+    panel->picStrings->SetParts(
+        [this] { return FretboardParts(m_workbench, m_state, m_fretboardCommands); });
+    panel->picKeyboard->SetParts([this] {
+        return KeyboardParts(m_workbench, m_state.InterfaceTongue(), m_keyboardCommands);
+    });
+    Handle(panel->picStrings, &TwipPicture::FocusMoved, this, &frmMain::ShowHint);
+    Handle(panel->picKeyboard, &TwipPicture::FocusMoved, this, &frmMain::ShowHint);
+    Handle(cmdFindChord, &GoldButton::Click, this, &frmMain::cmdFindChord_Click);
+}
+
+void frmMain::cmdFindChord_Click() {
+    Do([&] { m_workbench.FindChord(); });
+}
+
+void frmMain::ShowState() {
+    ShowInstruments();
+    ShowLabels();
+    ShowHint();
+    panel->picStrings->TellParts();
+    panel->picKeyboard->TellParts();
+    lblChord->setText(m_workbench.ChordName());
+    lblChord->setToolTip(PlainToolTip(m_workbench.ChordHint()));
+    lblKeys->setText(m_workbench.MarkedNames());
+    const Phrase rootMissing{QStringLiteral("Ни одна струна не даёт основного тона аккорда."),
+                             QStringLiteral("No string sounds the root of the chord.")};
+    const bool warn = m_workbench.Missing().rootMissing;
+    lblNoS->setText(m_workbench.Missing().text);
+    SetTextColour(lblNoS, warn ? Colours::mark : Colours::normalText);
+    lblNoS->setAutoFillBackground(warn);
+    lblNoS->setToolTip(warn ? rootMissing.In(m_state.InterfaceTongue()) : QString());
+    {
+        const QSignalBlocker silent(lstLadBarre);
+        lstLadBarre->setCurrentIndex(m_workbench.BarreFretRow());
+    }
+    Q_EMIT StateShown();
+}
+
+void frmMain::ShowInstruments() {
+    FretboardView board = ViewOfFretboard(m_workbench, m_state);
+    board.soundingRow = m_playback.SoundingRow();
+    // A press there would take hold of the barre, should it have come there meanwhile.
+    if (m_pointed && !IsOnBarre(FretboardLayout::MarkCentre(m_pointed->row, m_pointed->fret).x())) {
+        board.pointed = m_pointed;
+        if (const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret))
+            board.pointedNote = NoteName(*note).toString();
+    }
+    panel->picStrings->Show(board);
+    KeyboardView keyboard = ViewOfKeyboard(m_workbench);
+    keyboard.soundingKey = m_playback.SoundingKey();
+    panel->picKeyboard->Show(keyboard);
+}
+
+void frmMain::ShowLabels() {
+    LabelsView labels = ViewOfLabels(m_workbench, m_state);
+    if (m_fretLabelLit)
+        labels.litFret = LastFretLabel + 1;
+    if (m_stringLabelLit)
+        labels.litRow = LastStringLabel;
+    panel->ShowLabels(labels);
+}
+
+void frmMain::ShowHint() {
+    panel->ShowHint(Hint());
+}
+
+void frmMain::ShowNotice(const Phrase& notice) {
+    m_notice = notice.In(m_state.InterfaceTongue());
+    ShowHint();
+    QAccessibleEvent alert(panel->lblHint, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+QString frmMain::Hint() {
+    const Tongue tongue = m_state.InterfaceTongue();
+    const auto marked = m_workbench.Keys().Marked();
+    if (m_pointed) {
+        const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret);
+        const int string = StringOfRow(m_pointed->row, m_state.ThinStringAtBottom);
+        return note ? CrossingHint(string, m_pointed->fret, *note, marked, tongue) : QString();
+    }
+    const auto& keyboard = *panel->picKeyboard;
+    if (!m_pointedKey && !m_notice.isEmpty())
+        return m_notice;
+    if (m_pointedKey || keyboard.hasFocus())
+        return KeyHint(m_pointedKey.value_or(keyboard.FocusPart()), marked, tongue);
+    if (panel->picStrings->hasFocus()) {
+        const auto focus = static_cast<std::size_t>(panel->picStrings->FocusPart());
+        const QString part = panel->picStrings->Parts().parts[focus].name;
+        return part.left(1).toUpper() + part.mid(1);
+    }
+    return {};
+}

@@ -1,0 +1,60 @@
+#include "workbench/seegroup.h"
+
+#include "controls/colours.h"
+#include "controls/newcontrols.h"
+
+#include <QGridLayout>
+
+SeeGroup::SeeGroup(QWidget* window)
+    : seeColumn(Spaced(new QVBoxLayout, 0)),
+      Label1(NewLabel(u"Label1", window)),
+      lblChord(NewLabel(u"lblChord", window)),
+      cmdFindChord(NewPictureButton(u"cmdFindChord", Icon::NameChord, window)),
+      panel(new InstrumentPanel(window)),
+      Label2(NewLabel(u"Label2", window)),
+      lblKeys(NewLabel(u"lblKeys", window)),
+      Label7(NewLabel(u"Label7", window)),
+      lblNoS(NewLabel(u"lblNoS", window)) {
+    seeColumn->addLayout(ChordLine(window));
+    seeColumn->addWidget(panel, 1);
+    seeColumn->addLayout(NoteLines());
+}
+
+QLayout* SeeGroup::ChordLine(const QWidget* window) {
+    const int side = lblChord->fontMetrics().height() * 2;
+    Label1->setPixmap(
+        MakeIcon(Icon::PlayStrings).pixmap(QSize(side, side), window->devicePixelRatio()));
+    QFont large = lblChord->font();
+    large.setPointSizeF(large.pointSizeF() * 1.9);
+    large.setBold(true);
+    lblChord->setFont(large);
+    lblChord->setTextFormat(Qt::PlainText);
+    lblChord->setMinimumHeight(lblChord->fontMetrics().height());
+    auto* line = Spaced(new QHBoxLayout, 0);
+    line->addWidget(Label1);
+    line->addWidget(lblChord, 1);
+    line->addWidget(cmdFindChord);
+    return line;
+}
+
+QLayout* SeeGroup::NoteLines() {
+    auto* grid = Spaced(new QGridLayout, 0);
+    grid->addWidget(Label2, 0, 0);
+    grid->addWidget(lblKeys, 0, 1);
+    grid->addWidget(Label7, 1, 0);
+    grid->addWidget(lblNoS, 1, 1, Qt::AlignLeft); // As wide as its text: it may be filled.
+    grid->setColumnStretch(1, 1);
+    for (QLabel* label : {lblKeys, lblNoS}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setMinimumWidth(1); // A long list must not widen the window.
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+    }
+    QPalette warning = lblNoS->palette();
+    warning.setColor(QPalette::Window, Colours::behindMark);
+    lblNoS->setPalette(warning);
+    lblNoS->setContentsMargins(layoutGap / 2, 0, layoutGap / 2, 0);
+    Label7->setMinimumHeight(lblNoS->sizeHint().height());
+    return grid;
+}

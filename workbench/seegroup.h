@@ -1,0 +1,28 @@
+// The controls for seeing a chord: its name, the two pictures, its notes.
+#pragma once
+
+#include "controls/goldbutton.h"
+#include "pictures/instrumentpanel.h"
+
+#include <QLabel>
+
+class QVBoxLayout;
+
+struct SeeGroup {
+    // Makes the controls as the window's children, and lays them out in a column.
+    explicit SeeGroup(QWidget* window);
+
+    QVBoxLayout* seeColumn; // For the window to place.
+    QLabel* Label1;
+    QLabel* lblChord;
+    GoldButton* cmdFindChord;
+    InstrumentPanel* panel;
+    QLabel* Label2;
+    QLabel* lblKeys;
+    QLabel* Label7;
+    QLabel* lblNoS;
+
+private:
+    QLayout* ChordLine(const QWidget* window);
+    QLayout* NoteLines();
+};

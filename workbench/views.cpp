@@ -1,0 +1,29 @@
+#include "workbench/views.h"
+
+FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state) {
+    FretboardView view;
+    view.barre = workbench.ShownBarre();
+    view.thinStringAtBottom = state.ThinStringAtBottom;
+    for (int row = 0; row < stringCount; ++row) {
+        view.marks[static_cast<std::size_t>(row)] = workbench.Row(row).mark;
+        view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;
+    }
+    return view;
+}
+
+KeyboardView ViewOfKeyboard(const Workbench& workbench) {
+    KeyboardView view;
+    for (int key = 0; key < keyCount; ++key)
+        view.fills[static_cast<std::size_t>(key)] = workbench.Keys().Fill(key);
+    return view;
+}
+
+LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state) {
+    LabelsView view;
+    view.soundNumbers = state.SoundNumbers;
+    for (int row = 0; row < stringCount; ++row) {
+        view.notes[static_cast<std::size_t>(row)] = workbench.RowText(row);
+        view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;
+    }
+    return view;
+}

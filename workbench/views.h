@@ -1,0 +1,9 @@
+// What the pictures show of a workbench; what the pointer and the sound add is left empty.
+#pragma once
+
+#include "pictures/instrumentviews.h"
+#include "workbench/workbench.h"
+
+FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state);
+KeyboardView ViewOfKeyboard(const Workbench& workbench);
+LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state);
