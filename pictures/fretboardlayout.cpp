@@ -2,39 +2,60 @@
 
 #include <cmath>
 
+namespace {
+
+constexpr QSizeF labelSize{495, 255};
+
+} // namespace
+
+double FretboardLayout::FromNut(double distance) const {
+    return leftHanded ? size.width() - distance : distance;
+}
+
+QRectF FretboardLayout::Placed(const QRectF& fromNut) const {
+    QRectF placed = fromNut;
+    if (leftHanded)
+        placed.moveRight(FromNut(fromNut.left()));
+    return placed;
+}
+
 double FretboardLayout::StringY(int row) {
     return highestString + (stringCount - 1 - row) * rowHeight;
 }
 
-double FretboardLayout::FretX(int fret) {
-    return fret * fretWidth;
+double FretboardLayout::FretX(int fret) const {
+    return FromNut(fret * fretWidth);
 }
 
-QPointF FretboardLayout::MarkCentre(int row, int fret) {
-    return {markColumn + (fret - 1) * fretWidth, StringY(row)};
+double FretboardLayout::FretMiddle(int fret) const {
+    return FromNut((fret - 0.5) * fretWidth);
 }
 
-QRectF FretboardLayout::MarkRect(int row, int fret) {
+QPointF FretboardLayout::MarkCentre(int row, int fret) const {
+    return {FromNut(markColumn + (fret - 1) * fretWidth), StringY(row)};
+}
+
+QRectF FretboardLayout::MarkRect(int row, int fret) const {
     QRectF rect(0, 0, markSize, markSize);
     rect.moveCenter(MarkCentre(row, fret));
     return rect;
 }
 
-QRectF FretboardLayout::BarreRect(Barre barre) {
+QRectF FretboardLayout::BarreRect(Barre barre) const {
     constexpr double bottom = 2160;
     const double top = (stringCount - (barre.lastRow + 1)) * rowHeight + 200;
     return {MarkCentre(0, barre.fret).x() - markSize / 2, top, markSize, bottom - top};
 }
 
-bool FretboardLayout::IsOnBarre(Barre barre, double x) {
+bool FretboardLayout::IsOnBarre(Barre barre, double x) const {
     const QRectF bar = BarreRect(barre);
     return bar.left() < x && x < bar.right();
 }
 
-int FretboardLayout::BarreStep(Barre barre, double x) {
+int FretboardLayout::BarreStep(Barre barre, double x) const {
     // Wide enough that the barre, once it has moved, does not jump back at once.
     constexpr double deadZone = 400;
-    const double distance = x - BarreRect(barre).center().x();
+    const double distance = FromNut(x) - FromNut(BarreRect(barre).center().x());
     if (std::abs(distance) <= deadZone)
         return 0;
     return distance > 0 ? 1 : -1;
@@ -44,9 +65,18 @@ QRectF FretboardLayout::RowRect(int row) {
     return {0, StringY(row) - rowHeight / 2, size.width(), rowHeight};
 }
 
-std::optional<int> FretboardLayout::FretAt(double x) {
+QRectF FretboardLayout::FretLabel(int fret) const {
+    return Placed({{(fret - 1) * fretWidth, 2160}, labelSize});
+}
+
+QRectF FretboardLayout::NoteLabel(int row) const {
+    return Placed({{7200, 120 + (stringCount - 1 - row) * rowHeight}, labelSize});
+}
+
+std::optional<int> FretboardLayout::FretAt(double x) const {
+    const double distance = FromNut(x);
     for (int column = 0; column < fretColumns; ++column)
-        if (column * fretWidth < x && x < (column + 1) * fretWidth)
+        if (column * fretWidth < distance && distance < (column + 1) * fretWidth)
             return column + 1;
     return std::nullopt;
 }

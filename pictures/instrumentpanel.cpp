@@ -2,7 +2,6 @@
 
 #include "controls/colours.h"
 #include "controls/labellook.h"
-#include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 
 #include <cmath>
@@ -15,17 +14,10 @@ constexpr double smallestScale = 0.85;
 // The window's places, measured from the fretboard's top left corner.
 constexpr QSizeF panelSize{7695, 4215};
 constexpr double keyboardTop = 2640;
-constexpr QSizeF labelSize{495, 255};
-
-QRectF FretLabel(int fret) {
-    return {{(fret - 1) * FretboardLayout::fretWidth, 2160}, labelSize};
-}
-
 constexpr QRectF hint{0, 2415, 7215, 225};
 
-QRectF NoteLabel(int row) {
-    return {{7200, 120 + (stringCount - 1 - row) * FretboardLayout::rowHeight}, labelSize};
-}
+// How much of a label's or line's height its letters may take.
+constexpr double letterShare = 0.78;
 
 } // namespace
 
@@ -55,6 +47,10 @@ InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
 }
 
 void InstrumentPanel::ShowLabels(const LabelsView& view) {
+    if (view.layout != m_layout) {
+        m_layout = view.layout;
+        Place();
+    }
     const auto colour = [](bool lit) { return lit ? Colours::highlight : Colours::normalText; };
     for (int fret = 1; fret <= fretLabels; ++fret)
         SetTextColour(Label3[static_cast<std::size_t>(fret - 1)], colour(view.litFret == fret));
@@ -100,18 +96,22 @@ void InstrumentPanel::Place() {
     const auto rect = [&](const QRectF& twips) {
         return QRectF(twips.topLeft() * scale + origin, twips.size() * scale).toRect();
     };
-    picStrings->setGeometry(rect({QPointF(0, 0), FretboardLayout::size}));
+    // The notes stand beside the board: at the right, or at the left of a mirrored one.
+    const QPointF board(m_layout.leftHanded ? panelSize.width() - FretboardLayout::size.width() : 0,
+                        0);
+    picStrings->setGeometry(rect({board, FretboardLayout::size}));
     picKeyboard->setGeometry(rect({QPointF(0, keyboardTop), KeyboardLayout::size}));
     QFont font = this->font();
-    font.setPixelSize(std::max(9, static_cast<int>(labelSize.height() * 0.78 * scale)));
+    font.setPixelSize(
+        std::max(9, static_cast<int>(m_layout.NoteLabel(0).height() * letterShare * scale)));
     const auto place = [&](QLabel* label, const QRectF& twips) {
-        label->setGeometry(rect(twips));
+        label->setGeometry(rect(twips.translated(board)));
         label->setFont(font);
     };
     for (int fret = 1; fret <= fretLabels; ++fret)
-        place(Label3[static_cast<std::size_t>(fret - 1)], FretLabel(fret));
+        place(Label3[static_cast<std::size_t>(fret - 1)], m_layout.FretLabel(fret));
     QFont hintFont = font;
-    hintFont.setPixelSize(std::max(9, static_cast<int>(hint.height() * 0.78 * scale)));
+    hintFont.setPixelSize(std::max(9, static_cast<int>(hint.height() * letterShare * scale)));
     place(lblHint, hint);
     lblHint->setFont(hintFont);
     QFont noteFont = font;
@@ -119,8 +119,8 @@ void InstrumentPanel::Place() {
     for (int row = 0; row < stringCount; ++row) {
         QLabel* label = Label4[static_cast<std::size_t>(row)];
         noteFont.setStrikeOut(label->font().strikeOut()); // A muted string stays struck out.
-        place(label, NoteLabel(row));
-        place(Label6[static_cast<std::size_t>(row)], NoteLabel(row));
+        place(label, m_layout.NoteLabel(row));
+        place(Label6[static_cast<std::size_t>(row)], m_layout.NoteLabel(row));
         label->setFont(noteFont);
     }
 }

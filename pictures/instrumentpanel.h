@@ -24,7 +24,7 @@ public:
     // The panel's size when a twip is scale / 15 pixels: 1 is the size at 96 dpi.
     static QSize SizeAt(double scale);
 
-    // Writes the labels around the pictures.
+    // Writes the labels around the pictures, and lays the board and them out for the hand.
     void ShowLabels(const LabelsView& view);
 
     // Shows a line of text on lblHint, cut where it is too long.
@@ -38,4 +38,6 @@ protected:
 
 private:
     void Place();
+
+    FretboardLayout m_layout;
 };

@@ -4,6 +4,7 @@
 
 #include "music/fingering.h"
 #include "music/pianokeys.h"
+#include "pictures/fretboardlayout.h"
 
 // Where a row and a fret meet; fret 0 lies off the board.
 struct BoardPlace {
@@ -14,6 +15,7 @@ struct BoardPlace {
 };
 
 struct FretboardView {
+    FretboardLayout layout;
     std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
     std::array<bool, stringCount> muted{};
     std::optional<Barre> barre;
@@ -34,8 +36,9 @@ struct KeyboardView {
 
 // The fret numbers and the labels at the rows' ends.
 struct LabelsView {
-    SixTexts notes;        // What each row sounds.
-    SixTexts soundNumbers; // Of its open string.
+    FretboardLayout layout; // They stand where the board lies.
+    SixTexts notes;         // What each row sounds.
+    SixTexts soundNumbers;  // Of its open string.
     std::array<bool, stringCount> muted{};
     std::optional<int> litFret; // 1 for the first; under the pointer.
     std::optional<int> litRow;

@@ -67,10 +67,10 @@ void PaintInlay(QPainter& painter, double x, double y) {
     painter.drawEllipse(dot);
 }
 
-void PaintInlays(QPainter& painter) {
+void PaintInlays(QPainter& painter, const FretboardLayout& layout) {
     const double middle = (FretboardLayout::StringY(2) + FretboardLayout::StringY(3)) / 2;
     for (const int fret : {3, 5, 7, 9, 12, 15}) {
-        const double x = FretboardLayout::FretX(fret) - FretboardLayout::fretWidth / 2;
+        const double x = layout.FretMiddle(fret);
         if (fret == 12) {
             PaintInlay(painter, x, middle - FretboardLayout::rowHeight);
             PaintInlay(painter, x, middle + FretboardLayout::rowHeight);
@@ -80,12 +80,17 @@ void PaintInlays(QPainter& painter) {
     }
 }
 
-void PaintFrets(QPainter& painter) {
+void PaintFrets(QPainter& painter, const FretboardLayout& layout) {
     const double height = neckBottom - neckTop;
-    painter.fillRect(QRectF(0, neckTop, 45, height), nut);
-    painter.fillRect(QRectF(45, neckTop, 15, height), shadow);
+    const auto fromNut = [&](double from, double to) {
+        return QRectF(QPointF(layout.FromNut(from), neckTop),
+                      QPointF(layout.FromNut(to), neckBottom))
+            .normalized();
+    };
+    painter.fillRect(fromNut(0, 45), nut);
+    painter.fillRect(fromNut(45, 60), shadow);
     for (int fret = 1; fret < FretboardLayout::fretColumns; ++fret) {
-        const double x = FretboardLayout::FretX(fret);
+        const double x = layout.FretX(fret);
         painter.fillRect(QRectF(x - 15, neckTop, 30, height), fretBright);
         painter.fillRect(QRectF(x + 5, neckTop, 10, height), fretShade);
         painter.fillRect(QRectF(x + 15, neckTop, 15, height), shadow);
@@ -152,11 +157,11 @@ void PaintBarre(QPainter& painter, const QRectF& bar) {
 
 } // namespace
 
-void PaintNeck(QPainter& painter, bool thinStringAtBottom) {
+void PaintNeck(QPainter& painter, const FretboardLayout& layout, bool thinStringAtBottom) {
     painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::window.Now());
     PaintWood(painter);
-    PaintInlays(painter);
-    PaintFrets(painter);
+    PaintInlays(painter, layout);
+    PaintFrets(painter, layout);
     for (int row = 0; row < stringCount; ++row)
         PaintString(painter, row, StringOfRow(row, thinStringAtBottom));
 }
@@ -169,19 +174,20 @@ void PaintMarks(QPainter& painter, const FretboardView& view) {
         QPen gaps(woodDark, 66);
         gaps.setDashPattern({1.6, 1.6});
         painter.setPen(gaps);
-        painter.drawLine(QPointF(60, y), QPointF(FretboardLayout::size.width(), y));
+        painter.drawLine(QPointF(view.layout.FromNut(60), y),
+                         QPointF(view.layout.FromNut(FretboardLayout::size.width()), y));
     }
     if (view.soundingRow)
         PaintSounding(painter, *view.soundingRow,
                       StringOfRow(*view.soundingRow, view.thinStringAtBottom));
     if (view.barre)
-        PaintBarre(painter, FretboardLayout::BarreRect(*view.barre));
+        PaintBarre(painter, view.layout.BarreRect(*view.barre));
     for (int row = 0; row < stringCount; ++row)
         if (const auto fret = view.marks[static_cast<std::size_t>(row)])
-            PaintFinger(painter, FretboardLayout::MarkRect(row, *fret));
+            PaintFinger(painter, view.layout.MarkRect(row, *fret));
     if (!view.pointed || view.pointedNote.isEmpty())
         return;
     const auto [row, fret] = *view.pointed;
     if (view.marks[static_cast<std::size_t>(row)] != fret)
-        PaintPointed(painter, FretboardLayout::MarkRect(row, fret), view.pointedNote);
+        PaintPointed(painter, view.layout.MarkRect(row, fret), view.pointedNote);
 }

@@ -12,7 +12,7 @@ PicStrings::PicStrings(QWidget* parent)
 void PicStrings::Show(const FretboardView& view) {
     if (view == m_view)
         return;
-    if (view.thinStringAtBottom != m_view.thinStringAtBottom)
+    if (view.thinStringAtBottom != m_view.thinStringAtBottom || view.layout != m_view.layout)
         m_neck = {};
     m_view = view;
     update();
@@ -27,7 +27,7 @@ void PicStrings::paintEvent(QPaintEvent*) {
         QPainter painter(&m_neck);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());
-        PaintNeck(painter, m_view.thinStringAtBottom);
+        PaintNeck(painter, m_view.layout, m_view.thinStringAtBottom);
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_neck);

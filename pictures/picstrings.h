@@ -18,5 +18,5 @@ protected:
 
 private:
     FretboardView m_view;
-    QPixmap m_neck; // What changes only with the size and the order of the strings.
+    QPixmap m_neck; // What changes only with the size, the order of the strings and the hand.
 };

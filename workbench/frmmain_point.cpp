@@ -1,9 +1,9 @@
 // Pointing in the main window: presses on the pictures and on the labels around them, and what
 // lights up under the pointer.
 #include "controls/handle.h"
-#include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 #include "workbench/frmmain.h"
+#include "workbench/views.h"
 
 void frmMain::ConnectPoint() {
     Handle(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
@@ -28,7 +28,7 @@ void frmMain::ConnectPoint() {
 
 bool frmMain::IsOnBarre(double x) const {
     const auto barre = m_workbench.ShownBarre();
-    return barre && FretboardLayout::IsOnBarre(*barre, x);
+    return barre && LayoutOfFretboard(m_state).IsOnBarre(*barre, x);
 }
 
 void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
@@ -40,21 +40,20 @@ void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
         BarreDragging = true;
         return;
     }
-    DoQuietly([&] {
-        m_workbench.PressString(FretboardLayout::RowAt(place.y()),
-                                FretboardLayout::FretAt(place.x()));
-    });
+    const auto fret = LayoutOfFretboard(m_state).FretAt(place.x());
+    DoQuietly([&] { m_workbench.PressString(FretboardLayout::RowAt(place.y()), fret); });
 }
 
 void frmMain::picStrings_MouseMove(QPointF place) {
     Form_MouseMove();
+    const FretboardLayout layout = LayoutOfFretboard(m_state);
     const auto row = FretboardLayout::RowAt(place.y());
-    const auto fret = FretboardLayout::FretAt(place.x());
+    const auto fret = layout.FretAt(place.x());
     const bool free = !BarreDragging && !IsOnBarre(place.x());
     PointAt(free && row && fret ? std::optional(BoardPlace{*row, *fret}) : std::nullopt, {});
     const auto barre = m_workbench.ShownBarre();
     if (BarreDragging && barre)
-        DoQuietly([&] { m_workbench.MoveBarre(FretboardLayout::BarreStep(*barre, place.x())); });
+        DoQuietly([&] { m_workbench.MoveBarre(layout.BarreStep(*barre, place.x())); });
 }
 
 void frmMain::picStrings_MouseUp() {

@@ -4,7 +4,6 @@
 #include "controls/labellook.h"
 #include "controls/plaintext.h"
 #include "music/shape.h"
-#include "pictures/fretboardlayout.h"
 #include "pictures/partnames.h"
 #include "workbench/frmmain.h"
 #include "workbench/views.h"
@@ -64,7 +63,7 @@ void frmMain::ShowInstruments() {
     FretboardView board = ViewOfFretboard(m_workbench, m_state);
     board.soundingRow = m_playback.SoundingRow();
     // A press there would take hold of the barre, should it have come there meanwhile.
-    if (m_pointed && !IsOnBarre(FretboardLayout::MarkCentre(m_pointed->row, m_pointed->fret).x())) {
+    if (m_pointed && !IsOnBarre(board.layout.MarkCentre(m_pointed->row, m_pointed->fret).x())) {
         board.pointed = m_pointed;
         if (const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret))
             board.pointedNote = NoteName(*note).toString();

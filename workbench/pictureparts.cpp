@@ -1,9 +1,9 @@
 #include "workbench/pictureparts.h"
 
 #include "music/shape.h"
-#include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 #include "pictures/partnames.h"
+#include "workbench/views.h"
 
 namespace {
 
@@ -51,7 +51,7 @@ PicturePart BarrePart(const Workbench& workbench, const AppState& state,
     part.role = QAccessible::CheckBox;
     part.name = BarrePartName(barre, state.ThinStringAtBottom, tongue);
     part.checked = barre.has_value();
-    part.place = FretboardLayout::BarreRect(barre.value_or(Barre{fret, stringCount - 1}));
+    part.place = LayoutOfFretboard(state).BarreRect(barre.value_or(Barre{fret, stringCount - 1}));
     part.range =
         PartRange{fret, 1, barreFrets, [&commands](int chosen) { commands.moveBarre(chosen); }};
     part.actions = {{switchBarre.In(tongue), [&commands] { commands.switchBarre(); }}};

@@ -1,7 +1,12 @@
 #include "workbench/views.h"
 
+FretboardLayout LayoutOfFretboard(const AppState& state) {
+    return {.leftHanded = state.LeftHanded};
+}
+
 FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state) {
     FretboardView view;
+    view.layout = LayoutOfFretboard(state);
     view.barre = workbench.ShownBarre();
     view.thinStringAtBottom = state.ThinStringAtBottom;
     for (int row = 0; row < stringCount; ++row) {
@@ -20,6 +25,7 @@ KeyboardView ViewOfKeyboard(const Workbench& workbench) {
 
 LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state) {
     LabelsView view;
+    view.layout = LayoutOfFretboard(state);
     view.soundNumbers = state.SoundNumbers;
     for (int row = 0; row < stringCount; ++row) {
         view.notes[static_cast<std::size_t>(row)] = workbench.RowText(row);

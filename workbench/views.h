@@ -4,6 +4,9 @@
 #include "pictures/instrumentviews.h"
 #include "workbench/workbench.h"
 
+// For the hand that the settings name.
+FretboardLayout LayoutOfFretboard(const AppState& state);
+
 FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state);
 KeyboardView ViewOfKeyboard(const Workbench& workbench);
 LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state);

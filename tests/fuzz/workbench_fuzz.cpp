@@ -116,7 +116,7 @@ void Do(Machine& machine, char command, int n) {
     case 'p':
         return workbench.PressString(
             n % 8 > 0 ? std::optional(n % 8 % stringCount) : std::nullopt,
-            FretboardLayout::FretAt(FretboardLayout::size.width() * across));
+            FretboardLayout().FretAt(FretboardLayout::size.width() * across));
     case 'm':
         return workbench.ToggleMute(n % stringCount);
     case 'k':

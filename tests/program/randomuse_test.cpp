@@ -208,9 +208,9 @@ void RandomUseTest::CheckPictures() {
     const QImage board = Window().panel->picStrings->grab().toImage();
     for (int row = 0; row < stringCount; ++row)
         for (int fret = 1; fret < FretboardLayout::fretColumns; ++fret) {
-            const QPointF centre = FretboardLayout::MarkCentre(row, fret);
+            const QPointF centre = FretboardLayout().MarkCentre(row, fret);
             const auto barre = State().ShownBarre();
-            const bool barred = barre && FretboardLayout::BarreRect(*barre).contains(centre);
+            const bool barred = barre && FretboardLayout().BarreRect(*barre).contains(centre);
             QCOMPARE(pixel(board, *neck, centre) == red, State().Row(row).mark == fret || barred);
         }
 }

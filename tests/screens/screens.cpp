@@ -56,7 +56,7 @@ void TakeMainWindow(frmMain& window) {
     Take(&window, QStringLiteral("main"));
     window.lstBase->SelectRow(4);
     window.panel->picKeyboard->setFocus();
-    Hover(window.panel->picStrings, FretboardLayout::MarkCentre(2, 6));
+    Hover(window.panel->picStrings, FretboardLayout().MarkCentre(2, 6));
     Take(&window, QStringLiteral("main-keyboard-focus"));
     window.cmdMakeBarre_Click();
     window.lstLadBarre->SelectRow(4);

@@ -212,15 +212,15 @@ void FrmMainTest::MarksArePainted() {
         QCOMPARE(m_main->Pixel(m_main->keyboard, KeyboardLayout::FreeArea(key).center()),
                  marked ? Colours::mark : own);
     }
-    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(1, 1)), Colours::mark);
-    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(3, 2)), Colours::mark);
-    QVERIFY(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(0, 1)) != Colours::mark);
+    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout().MarkCentre(1, 1)), Colours::mark);
+    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout().MarkCentre(3, 2)), Colours::mark);
+    QVERIFY(m_main->Pixel(m_main->board, FretboardLayout().MarkCentre(0, 1)) != Colours::mark);
 }
 
 void FrmMainTest::FretsByMouse() {
     m_main->Click(m_main->board, Crossing(0, 5));
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 0), QStringLiteral("A"));
-    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout::MarkCentre(0, 5)), Colours::mark);
+    QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout().MarkCentre(0, 5)), Colours::mark);
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 1), QStringLiteral("C")); // The others stay.
     m_main->Click(m_main->board, {7208, FretboardLayout::StringY(2)});
     QCOMPARE(m_main->workbench.Row(2).mark, std::optional(16));
@@ -293,7 +293,7 @@ void FrmMainTest::BarreIsDragged() {
 void FrmMainTest::BarreIsPainted() {
     m_main->window.lstLadBarre->SelectRow(4);
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);
-    const QRectF bar = FretboardLayout::BarreRect({5, 5});
+    const QRectF bar = FretboardLayout().BarreRect({5, 5});
     QCOMPARE(m_main->Pixel(m_main->board, bar.center()), Colours::mark);
     QCOMPARE(m_main->Pixel(m_main->board, {bar.center().x(), bar.top() + 30}), Colours::mark);
     QTest::mouseClick(m_main->window.cmdMakeBarre, Qt::LeftButton);

@@ -255,26 +255,26 @@ void PicturePartsTest::TheFocusIsSeen() {
 // The whole bar stays a mark, whatever is shown around it.
 void PicturePartsTest::NothingCoversTheBarre() {
     constexpr int barrePart = 6;
-    const QPointF crossing = FretboardLayout::MarkCentre(2, 5);
+    const QPointF crossing = FretboardLayout().MarkCentre(2, 5);
     m_main->Move(m_main->board, crossing);
     QTest::mouseClick(m_main->Find(QStringLiteral("Label3(4)")), Qt::LeftButton);
     QCOMPARE(m_main->Pixel(m_main->board, crossing), Colours::mark);
     m_main->board->setFocus();
     m_main->board->MoveFocusTo(barrePart);
-    const QRectF bar = FretboardLayout::BarreRect(*m_main->workbench.ShownBarre());
+    const QRectF bar = FretboardLayout().BarreRect(*m_main->workbench.ShownBarre());
     for (int row = 0; row < stringCount; ++row)
         QCOMPARE(m_main->Pixel(m_main->board,
-                               {bar.center().x(), FretboardLayout::MarkCentre(row, 5).y()}),
+                               {bar.center().x(), FretboardLayout().MarkCentre(row, 5).y()}),
                  Colours::mark);
 }
 
 void PicturePartsTest::APointedFretShowsItsNote() {
     const QImage before = m_main->board->grab().toImage();
-    m_main->Move(m_main->board, FretboardLayout::MarkCentre(2, 2));
+    m_main->Move(m_main->board, FretboardLayout().MarkCentre(2, 2));
     QCOMPARE(Hint(), QStringLiteral("Струна 3, лад 2: A, не отмечена"));
     QVERIFY(m_main->board->grab().toImage() != before);
     QVERIFY(!m_main->workbench.Row(2).mark);
-    m_main->Move(m_main->board, FretboardLayout::MarkCentre(2, 5));
+    m_main->Move(m_main->board, FretboardLayout().MarkCentre(2, 5));
     QCOMPARE(Hint(), QStringLiteral("Струна 3, лад 5: C, основной тон"));
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(m_main->board, &leave);
@@ -311,7 +311,7 @@ void PicturePartsTest::APointedKeyShowsItsNote() {
 }
 
 void PicturePartsTest::ThePressIsSeenAtOnce() {
-    const QPointF place = FretboardLayout::MarkCentre(2, 5);
+    const QPointF place = FretboardLayout().MarkCentre(2, 5);
     m_main->Move(m_main->board, place);
     QVERIFY(m_main->Pixel(m_main->board, place) != QColor(255, 0, 0));
     m_main->Press(m_main->board, place);
