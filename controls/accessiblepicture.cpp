@@ -135,6 +135,7 @@ public:
         for (int index = 0; index < static_cast<int>(m_told.size()); ++index)
             m_children.push_back(
                 QAccessible::registerAccessibleInterface(new AccessiblePart(picture, index)));
+        m_telling = QObject::connect(picture, &TwipPicture::PartsTold, [this] { TellChanges(); });
     }
 
     int childCount() const override { return static_cast<int>(m_children.size()); }
@@ -167,10 +168,9 @@ public:
         return Picture()->hasFocus() ? child(Picture()->FocusPart()) : nullptr;
     }
 
-    void TellChanges();
-
 protected:
     ~AccessiblePicture() override {
+        QObject::disconnect(m_telling);
         for (const QAccessible::Id id : m_children)
             QAccessible::deleteAccessibleInterface(id);
     }
@@ -178,7 +178,11 @@ protected:
 private:
     TwipPicture* Picture() const { return static_cast<TwipPicture*>(object()); }
 
+    // Sends the changes of the parts since the last call.
+    void TellChanges();
+
     std::vector<QAccessible::Id> m_children;
+    QMetaObject::Connection m_telling;
     std::vector<PicturePart> m_told;
     int m_toldFocus = -1;
 };
@@ -222,8 +226,4 @@ QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) 
 
 void InstallAccessiblePictures() {
     QAccessible::installFactory(MakeAccessible);
-}
-
-void TellChangedParts(TwipPicture& picture) {
-    static_cast<AccessiblePicture*>(QAccessible::queryAccessibleInterface(&picture))->TellChanges();
 }

@@ -2,10 +2,5 @@
 // and what can be done with it.
 #pragma once
 
-class TwipPicture;
-
 // To be called before a screen reader first looks at a picture.
 void InstallAccessiblePictures();
-
-// Sends the changes of the picture's parts since the last call.
-void TellChangedParts(TwipPicture& picture);

@@ -1,6 +1,5 @@
 #include "controls/twippicture.h"
 
-#include "controls/accessiblepicture.h"
 #include "controls/application.h"
 #include "controls/focusring.h"
 
@@ -33,8 +32,7 @@ QRectF TwipPicture::ToPixels(const QRectF& twips) const {
 }
 
 void TwipPicture::TellParts() {
-    if (QAccessible::isActive())
-        TellChangedParts(*this);
+    Q_EMIT PartsTold();
 }
 
 void TwipPicture::MoveFocusTo(int part) {

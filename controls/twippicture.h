@@ -25,7 +25,8 @@ public:
     void SetParts(std::function<PictureParts()> parts) { m_parts = std::move(parts); }
     PictureParts Parts() const { return m_parts ? m_parts() : PictureParts(); }
 
-    // Tells a screen reader, where one listens, which parts have changed.
+    // Tells whoever listens that parts have changed: what they are called, their state, or which
+    // of them has the focus.
     void TellParts();
 
     // The part that the keyboard works on: + and - change its value or go to the next, Page Up
@@ -44,6 +45,8 @@ Q_SIGNALS:
 
     // The keyboard came, went, or works on another part.
     void FocusMoved();
+
+    void PartsTold();
 
 protected:
     // What a picture kept for painting must hold to reach the last row of pixels.
