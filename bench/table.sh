@@ -34,6 +34,10 @@ start_desktop
     run 4 workbench_bench Paint
     run 1 windows_bench
     run 1 lists_bench
+    run 1 voicings_bench FindOne
+    QT_SCALE_FACTOR=1 "$bench/voicings_bench" --benchmark_format=json --benchmark_filter=FindAll \
+        2>/dev/null |
+        sed -nE 's/.*"(median|worst)": ([0-9.e+]+).*/VoicingsOfAll_\1 \2/p'
 } >>"$figures"
 
 # A row: what, the names of its figures, their unit, the goal.
@@ -76,6 +80,8 @@ further memory then, over the size of the files|MemoryMillion||3
 page down among 1,000,000 chord types / scales / tunings|1xPageDown/0 1xPageDown/1 1xPageDown/2|ms|100
 to the end or the beginning of these|1xEndAndHome/0 1xEndAndHome/1 1xEndAndHome/2|ms|100
 a letter typed that none of these begins with|1xSearchByLetter/0 1xSearchByLetter/1 1xSearchByLetter/2|ms|100
+voicings of C / C7 / C9 / C13, with fingers, ranked|1xFindOne/C 1xFindOne/C7 1xFindOne/C9 1xFindOne/C13|µs|100 each
+of 50 types on 12 roots in 36 tunings: median / worst|VoicingsOfAll_median VoicingsOfAll_worst|µs|100 / 2000
 settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|ms|30 / 150
 help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
