@@ -5,6 +5,7 @@
 #include "sound/playback.h"
 #include "workbench/choosegroup.h"
 #include "workbench/heargroup.h"
+#include "workbench/keytable.h"
 #include "workbench/moregroup.h"
 #include "workbench/pictureparts.h"
 #include "workbench/seegroup.h"
@@ -13,6 +14,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <span>
 
 class LanguageTexts;
 
@@ -98,6 +100,10 @@ public:
     void GoldButton1_Click();
     void GoldButton2_Click();
     void GoldButton3_Click();
+
+    // The keys that have a command, in the order in which they are looked for: the first row
+    // that fits is run. Arrows that are not among them move the focus to the fretboard.
+    static std::span<const KeyCommand> KeyTable();
 
     // Runs the key's command. shift: 1 Shift, 2 Ctrl, 4 Alt. False for a key that has none.
     bool Form_KeyDown(int key, int shift);

@@ -10,8 +10,6 @@
 
 namespace {
 
-enum Modifier { any = -1, none = 0, shiftKey = 1, ctrlKey = 2, altKey = 4 };
-
 int ModifierMask(Qt::KeyboardModifiers modifiers) {
     return (modifiers.testFlag(Qt::ShiftModifier) ? shiftKey : none) |
            (modifiers.testFlag(Qt::ControlModifier) ? ctrlKey : none) |
@@ -34,13 +32,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-bool frmMain::Form_KeyDown(int key, int shift) {
-    struct Command {
-        int key;
-        int shift; // The modifiers that it wants, or any.
-        void (*run)(frmMain& window);
-    };
-    // The first row that fits is run.
+std::span<const KeyCommand> frmMain::KeyTable() {
+    using Command = KeyCommand;
     static constexpr std::array commands{
         Command{Qt::Key_F1, any, [](frmMain& window) { Q_EMIT window.HelpAsked(false); }},
         Command{Qt::Key_F2, any, [](frmMain& window) { window.cmdMakeBarre_Click(); }},
@@ -62,14 +55,20 @@ bool frmMain::Form_KeyDown(int key, int shift) {
         Command{Qt::Key_Left, shiftKey, [](frmMain& window) { window.StepBarre(-1); }},
         Command{Qt::Key_Right, shiftKey, [](frmMain& window) { window.StepBarre(1); }},
     };
+    return commands;
+}
+
+bool frmMain::Form_KeyDown(int key, int shift) {
     const bool arrow =
         key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
     if (arrow) // The lists must not react to it as well.
         panel->picStrings->setFocus();
-    const auto* command = std::find_if(commands.begin(), commands.end(), [=](const Command& row) {
-        return row.key == key && (row.shift == shift || row.shift == any);
-    });
-    if (command == commands.end())
+    const auto table = KeyTable();
+    const auto command =
+        std::find_if(table.begin(), table.end(), [key, shift](const KeyCommand& row) {
+            return row.key == key && (row.shift == shift || row.shift == any);
+        });
+    if (command == table.end())
         return arrow;
     command->run(*this);
     return true;
