@@ -2,6 +2,8 @@
 
 #include "info/frmhelp.h"
 
+#include <QWidget>
+
 HelpOpener::HelpOpener(const AppState& state, std::function<ChordRows()> chordRows,
                        QWidget* mainWindow)
     : m_state(state), m_chordRows(std::move(chordRows)), m_mainWindow(mainWindow) {}
@@ -23,8 +25,10 @@ void HelpOpener::Show(const QWidget* control) {
     m_help->activateWindow();
 }
 
-void HelpOpener::ShowModal() {
-    frmHelp help(m_state, m_chordRows, ProgramAuthor(), m_mainWindow);
+void HelpOpener::ShowModal(QWidget* control) {
+    QWidget* above = control == nullptr ? m_mainWindow : control->window();
+    frmHelp help(m_state, m_chordRows, ProgramAuthor(), above);
+    help.GoTo(ChapterAbout(control));
     delete m_help;
     help.exec();
 }

@@ -24,8 +24,10 @@ public:
     // help.dat cannot be read, and show nothing then.
     void Show(const QWidget* control = nullptr);
 
-    // Shows the help and returns when it is closed. A help that is open gives way.
-    void ShowModal();
+    // Shows the help at the chapter about this control, above its window, and returns when it is
+    // closed; without a control at the beginning, above the main window. A help that is open
+    // gives way.
+    void ShowModal(QWidget* control = nullptr);
 
 private:
     const AppState& m_state;

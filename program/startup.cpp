@@ -12,6 +12,7 @@
 #include "sound/midiapi.h"
 
 #include <QMessageBox>
+#include <QShortcut>
 
 StartUp::StartUp(Application& application, const QString& folder)
     : StartUp(application, folder, std::make_unique<MidiAPI>(FolderPath(folder)),
@@ -95,6 +96,16 @@ void StartUp::ConnectWindows() {
     m_application.SetEnd([this] { m_window->close(); });
 }
 
+void StartUp::GiveHelp(QWidget& window) {
+    Handle(new QShortcut(QKeySequence::HelpContents, &window), &QShortcut::activated,
+           m_window.get(), [this, &window] {
+               if (window.isModal())
+                   m_help->ShowModal(QApplication::focusWidget());
+               else
+                   m_help->Show(QApplication::focusWidget());
+           });
+}
+
 void StartUp::ShowSettings() {
     frmSettings dialog(
         m_state, *m_midi, *m_clock,
@@ -104,6 +115,7 @@ void StartUp::ShowSettings() {
             m_window->ShowState();
         },
         m_window.get());
+    GiveHelp(dialog);
     Application::Guard([&dialog] { dialog.Form_Load(); });
     dialog.exec();
     if (dialog.Unsaved())
@@ -113,7 +125,7 @@ void StartUp::ShowSettings() {
 }
 
 void StartUp::ShowDiagrams() {
-    if (!m_diagrams)
+    if (!m_diagrams) {
         m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
             BoardFingering board;
             board.chordName = m_workbench->ChordName();
@@ -122,6 +134,8 @@ void StartUp::ShowDiagrams() {
                 board.marks[static_cast<std::size_t>(row)] = m_workbench->Row(row).mark;
             return board;
         });
+        GiveHelp(*m_diagrams);
+    }
     m_diagrams->show();
     m_diagrams->raise();
     m_diagrams->activateWindow();

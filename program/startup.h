@@ -33,6 +33,7 @@ public:
 private:
     void LoadLanguage();
     void ConnectWindows();
+    void GiveHelp(QWidget& window); // By F1, as in the main window.
     void ShowSettings();
     void ShowDiagrams();
 
