@@ -75,7 +75,7 @@ void PaintFretboard(benchmark::State& state) {
     for (std::size_t row = 0; row < view.marks.size(); ++row)
         view.marks[row] = main.workbench.Row(static_cast<int>(row)).mark;
     PaintPicture(state, *main.board, [&](QPainter& painter) {
-        PaintNeck(painter, true);
+        PaintNeck(painter, view.layout, true);
         PaintMarks(painter, view);
     });
 }
