@@ -15,7 +15,14 @@ same "The files" "$({ program_files; echo ./LICENSE; echo ./NEEDS.txt; } | sort)
 needed=$(readelf -d "$folder/tonvik" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | sort)
 listed=$(sed -n '/^Shared libraries/,/^Qt/ s/^    \(lib[^ ]*\) .*/\1/p' "$folder/NEEDS.txt" | sort)
 same "Libraries" "$needed" "$listed"
-same "Libraries not found" "" "$(ldd "$folder/tonvik" | grep 'not found' || true)"
+same "Libraries not found" "" "$(ldd "$folder/tonvik" "$folder/libtonvikprint.so" |
+    grep 'not found' || true)"
+# What only the library that prints names, and the list's paragraph on printing.
+same "Libraries to print with" \
+    "$(readelf -d "$folder/libtonvikprint.so" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | sort |
+        comm -23 - <(printf '%s\n' "$listed"))" \
+    "$(sed -n '/^Only to print/,/^Only for what/ s/^    \(lib[^ ]*\) .*/\1/p' \
+        "$folder/NEEDS.txt" | sort)"
 glibc=$(readelf -V "$folder/tonvik" | grep -o 'GLIBC_[0-9.]*' | sort -Vu | tail -1)
 same "The C library's version" "$(sed -n 's/.*glibc \([0-9.]*\) or.*/GLIBC_\1/p' \
     "$folder/NEEDS.txt")" "$glibc"

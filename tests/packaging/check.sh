@@ -19,7 +19,7 @@ files_of() { (cd -- "$1" && find . -type f | sort); }
 # The files of the built program folder that belong to the program.
 program_files() {
     (cd -- "$build_dir/tonvik" &&
-        find . -type f \( -path ./tonvik -o -path ./help.dat -o -path './*.lng' \
+        find . -type f \( -path ./tonvik -o -path ./libtonvikprint.so -o -path ./help.dat -o -path './*.lng' \
             -o -path './sounds/*.mid' \) | sort)
 }
 
