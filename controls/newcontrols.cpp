@@ -1,9 +1,9 @@
 #include "controls/newcontrols.h"
 
 #include "controls/goldbutton.h"
+#include "controls/textlabel.h"
 
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 
 GoldButton* NewCaptionButton(const char16_t* name, QWidget* parent) {
@@ -17,11 +17,8 @@ GoldButton* NewPictureButton(const char16_t* name, Icon icon, QWidget* parent) {
     return button;
 }
 
-QLabel* NewLabel(const char16_t* name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QString::fromUtf16(name));
-    label->setMouseTracking(true);
-    return label;
+TextLabel* NewLabel(const char16_t* name, QWidget* parent) {
+    return new TextLabel(QString::fromUtf16(name), parent);
 }
 
 QGroupBox* NewFrame(const char16_t* name, QWidget* parent) {

@@ -7,15 +7,15 @@
 
 class GoldButton;
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QWidget;
+class TextLabel;
 
 constexpr int layoutGap = 8; // The grid of all distances in a window, in pixels.
 
 GoldButton* NewCaptionButton(const char16_t* name, QWidget* parent);
 GoldButton* NewPictureButton(const char16_t* name, Icon icon, QWidget* parent);
-QLabel* NewLabel(const char16_t* name, QWidget* parent);
+TextLabel* NewLabel(const char16_t* name, QWidget* parent);
 QGroupBox* NewFrame(const char16_t* name, QWidget* parent);
 QLineEdit* NewTextBox(const char16_t* name, const QString& text, QWidget* parent);
 

@@ -55,6 +55,8 @@ bool TextLabel::event(QEvent* event) {
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawFrame(&painter);
+    if (text().isEmpty()) // No font is loaded for nothing.
+        return;
     const QRect rect = TextRect();
     style()->drawItemText(
         &painter, rect, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),

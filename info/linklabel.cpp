@@ -1,6 +1,6 @@
 #include "info/linklabel.h"
 
-#include "controls/colours.h"
+#include "controls/focusring.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,7 +11,7 @@ LinkLabel::LinkLabel(const QString& name, QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
-    setMargin(2); // Room for the focus ring.
+    setMargin(4); // Room for the focus ring.
     setForegroundRole(QPalette::Link);
     QFont underlined = font();
     underlined.setUnderline(true);
@@ -37,9 +37,8 @@ void LinkLabel::keyPressEvent(QKeyEvent* event) {
 
 void LinkLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
-    if (!hasFocus())
+    if (!FocusRing::IsShown(this))
         return;
     QPainter painter(this);
-    painter.setPen(Colours::focus);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    FocusRing::Paint(painter, QRectF(rect()));
 }

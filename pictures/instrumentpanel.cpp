@@ -29,17 +29,14 @@ InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
         Label3[static_cast<std::size_t>(fret - 1)] = label;
     }
     for (int row = 0; row < stringCount; ++row) {
-        auto* label = new QLabel(this);
-        label->setObjectName(QStringLiteral("Label4(%1)").arg(row));
+        auto* label = new TextLabel(QStringLiteral("Label4(%1)").arg(row), this);
         label->setAlignment(Qt::AlignCenter);
         Label4[static_cast<std::size_t>(row)] = label;
     }
     for (int row = 0; row < stringCount; ++row)
         Label6[static_cast<std::size_t>(row)] =
             new HotLabel(QStringLiteral("Label6(%1)").arg(row), this);
-    lblHint = new QLabel(this);
-    lblHint->setObjectName(QStringLiteral("lblHint"));
-    lblHint->setTextFormat(Qt::PlainText);
+    lblHint = new TextLabel(QStringLiteral("lblHint"), this);
     lblHint->setAlignment(Qt::AlignCenter);
     // Raised last: the picture lies over the first 15 twips of the labels around it.
     picStrings = new PicStrings(this);
@@ -66,10 +63,7 @@ void InstrumentPanel::ShowLabels(const LabelsView& view) {
 }
 
 void InstrumentPanel::ShowHint(const QString& hint) {
-    lblHint->setText(
-        hint.isEmpty() ? hint // No font is loaded for nothing.
-                       : lblHint->fontMetrics().elidedText(hint, Qt::ElideRight, lblHint->width()));
-    lblHint->setToolTip(lblHint->text() == hint ? QString() : hint);
+    lblHint->setText(hint);
     lblHint->setAccessibleName(hint);
 }
 

@@ -16,10 +16,10 @@ public:
 
     PicStrings* picStrings;
     PicKeyboard* picKeyboard;
-    QLabel* lblHint; // Under the fret numbers: what the pointer or the keyboard is at.
-    std::array<HotLabel*, fretLabels> Label3;  // Fret numbers, fret 1 first.
-    std::array<QLabel*, stringCount> Label4;   // Sounding notes, the bottom row first.
-    std::array<HotLabel*, stringCount> Label6; // Handles over them.
+    TextLabel* lblHint; // Under the fret numbers: what the pointer or the keyboard is at.
+    std::array<HotLabel*, fretLabels> Label3;   // Fret numbers, fret 1 first.
+    std::array<TextLabel*, stringCount> Label4; // Sounding notes, the bottom row first.
+    std::array<HotLabel*, stringCount> Label6;  // Handles over them.
 
     // The panel's size when a twip is scale / 15 pixels: 1 is the size at 96 dpi.
     static QSize SizeAt(double scale);
@@ -27,7 +27,7 @@ public:
     // Writes the labels around the pictures, and lays the board and them out for the hand.
     void ShowLabels(const LabelsView& view);
 
-    // Shows a line of text on lblHint, cut where it is too long.
+    // Shows a line of text on lblHint.
     void ShowHint(const QString& hint);
 
     QSize minimumSizeHint() const override;

@@ -5,6 +5,7 @@
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
 #include "controls/icons.h"
+#include "controls/textlabel.h"
 #include "core/language.h"
 
 #include <QBoxLayout>
@@ -47,9 +48,8 @@ void frmSettings::CreateControls() {
         Options[i] = Named(new QRadioButton(Frame1), QStringLiteral("Option%1").arg(i + 1));
     lstTunings = new ListBox(QStringLiteral("lstTunings"), Frame1);
     lstTunings->setModel(new CatalogueModel(m_state.Tunings, lstTunings));
-    lstLang = new ListBox(QStringLiteral("lstLang"), Frame2);
     for (std::size_t i = 0; i < stringCount; ++i) {
-        StringLabels[i] = Named(new QLabel(Frame3), QString::fromUtf16(labelNames[i]));
+        StringLabels[i] = new TextLabel(QString::fromUtf16(labelNames[i]), Frame3);
         Text1[i] = Named(new QLineEdit(Frame3), Indexed(u"Text1", i));
         VScroll1[i] = new UpScrollBar(Indexed(u"VScroll1", i), lowestNote, highestNote, Frame3);
         VScroll2[i] = new UpScrollBar(Indexed(u"VScroll2", i), 0, octaves, Frame3);
@@ -60,6 +60,7 @@ void frmSettings::CreateControls() {
         Image1[i]->SetCaption(QString());
         Image1[i]->SetPicture(MakeIcon(Icon::Listen));
     }
+    lstLang = new ListBox(QStringLiteral("lstLang"), Frame2);
     Check1 = Named(new QCheckBox(this), QStringLiteral("Check1"));
     Check1->setChecked(true);
     cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));

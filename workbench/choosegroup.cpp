@@ -10,7 +10,7 @@ ChooseGroup::ChooseGroup(QWidget* window)
       lstType(new ListBox(QStringLiteral("lstType"), Frame1)),
       lstLad(new ListBox(QStringLiteral("lstLad"), Frame1)),
       Label5(NewLabel(u"Label5", Frame1)),
-      txtFind(NewTextBox(u"txtFind", QString(), Frame1)),
+      txtFind(new PromptField(QStringLiteral("txtFind"), Frame1)),
       cmdFind(NewPictureButton(u"cmdFind", Icon::Find, Frame1)) {
     auto* grid = Spaced(new QGridLayout(Frame1), layoutGap);
     grid->addWidget(lstBase, 0, 0, 3, 1);
@@ -24,6 +24,7 @@ ChooseGroup::ChooseGroup(QWidget* window)
     grid->setRowStretch(0, 3);
     grid->setRowStretch(2, 2);
     grid->setColumnStretch(1, 1);
+    Label5->setMinimumWidth(1); // The lists decide how wide the frame is.
     const int digit = window->fontMetrics().horizontalAdvance(u'0');
     lstBase->setFixedWidth(digit * 7);
     lstType->setMinimumWidth(digit * 17);

@@ -3,10 +3,10 @@
 
 #include "controls/goldbutton.h"
 #include "controls/listbox.h"
+#include "controls/promptfield.h"
+#include "controls/textlabel.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 
 struct ChooseGroup {
     // Makes the controls as the window's children, and lays them out in their frame.
@@ -16,7 +16,7 @@ struct ChooseGroup {
     ListBox* lstBase;
     ListBox* lstType;
     ListBox* lstLad;
-    QLabel* Label5;
-    QLineEdit* txtFind;
+    TextLabel* Label5;
+    PromptField* txtFind;
     GoldButton* cmdFind;
 };

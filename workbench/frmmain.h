@@ -83,8 +83,10 @@ public:
     void picKeyboard_MouseLeave();
     void Label3_Click(int index);
     void Label3_MouseMove(int index);
+    void Label3_MouseLeave();
     void Label6_MouseDown(int index, Qt::MouseButton button);
     void Label6_MouseMove(int index);
+    void Label6_MouseLeave();
     void Form_MouseMove();
 
     // Try.
@@ -117,6 +119,7 @@ Q_SIGNALS:
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -137,7 +140,9 @@ private:
     void ShowLabels();
     void ShowHint();
     QString Hint();
+    QString WithHelp(const QString& hint) const;
     void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
+    void RestOn(const TwipPicture* picture);
     bool IsOnBarre(double x) const;
 
     // The same as Do for the commands of the fretboard, which ignore a run-time error.
@@ -155,7 +160,8 @@ private:
     int LastStringLabel = 0;
     bool m_fretLabelLit = false; // Whether that label is blue now.
     bool m_stringLabelLit = false;
-    std::optional<BoardPlace> m_pointed; // Under the pointer...
-    std::optional<int> m_pointedKey;     // ...and on the piano.
+    std::optional<BoardPlace> m_pointed;    // Under the pointer...
+    std::optional<int> m_pointedKey;        // ...and on the piano.
+    const TwipPicture* m_restsOn = nullptr; // The picture on which the pointer rests.
     QString m_notice;
 };

@@ -50,8 +50,10 @@ void frmMain::lstLad_Click(int row) {
 }
 
 void frmMain::cmdFind_Click() {
-    if (const auto row = FindChordType(m_state.ChordTypes, txtFind->text()))
+    if (const auto row = FindChordType(m_state.ChordTypes, txtFind->text())) {
         lstType->SelectRow(*row);
-    else
+    } else {
         Tell(QStringLiteral("Find"), m_state.UiText.NoSuchChordType, this);
+        txtFind->AskAgain();
+    }
 }

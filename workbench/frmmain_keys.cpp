@@ -29,6 +29,13 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
         if (handled)
             return true;
     }
+    if (event->type() == QEvent::ToolTip)
+        if (const auto* picture = qobject_cast<TwipPicture*>(watched)) {
+            RestOn(picture);
+            return true;
+        }
+    if (watched == lblChord && (event->type() == QEvent::Enter || event->type() == QEvent::Leave))
+        ShowHint();
     return QWidget::eventFilter(watched, event);
 }
 

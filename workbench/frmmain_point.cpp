@@ -17,12 +17,14 @@ void frmMain::ConnectPoint() {
         HotLabel* label = panel->Label3[static_cast<std::size_t>(index)];
         Handle(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });
         Handle(label, &HotLabel::MouseMove, this, [this, index] { Label3_MouseMove(index); });
+        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Label3_MouseLeave);
     }
     for (int row = 0; row < stringCount; ++row) {
         HotLabel* label = panel->Label6[static_cast<std::size_t>(row)];
         Handle(label, &HotLabel::MouseDown, this,
                [this, row](Qt::MouseButton button) { Label6_MouseDown(row, button); });
         Handle(label, &HotLabel::MouseMove, this, [this, row] { Label6_MouseMove(row); });
+        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Label6_MouseLeave);
     }
 }
 
@@ -82,11 +84,17 @@ void frmMain::picKeyboard_MouseLeave() {
 }
 
 void frmMain::PointAt(std::optional<BoardPlace> place, std::optional<int> key) {
-    if (m_pointed == place && m_pointedKey == key)
+    if (m_pointed == place && m_pointedKey == key && m_restsOn == nullptr)
         return;
+    m_restsOn = nullptr;
     m_pointed = place;
     m_pointedKey = key;
     ShowInstruments();
+    ShowHint();
+}
+
+void frmMain::RestOn(const TwipPicture* picture) {
+    m_restsOn = picture;
     ShowHint();
 }
 
@@ -98,6 +106,11 @@ void frmMain::Label3_MouseMove(int index) {
     LastFretLabel = index;
     m_fretLabelLit = true;
     m_stringLabelLit = false;
+    ShowLabels();
+}
+
+void frmMain::Label3_MouseLeave() {
+    m_fretLabelLit = false;
     ShowLabels();
 }
 
@@ -116,6 +129,11 @@ void frmMain::Label6_MouseMove(int index) {
     ShowLabels();
 }
 
+void frmMain::Label6_MouseLeave() {
+    m_stringLabelLit = false;
+    ShowLabels();
+}
+
 void frmMain::Form_MouseMove() {
     m_fretLabelLit = false;
     m_stringLabelLit = false;
@@ -124,4 +142,12 @@ void frmMain::Form_MouseMove() {
 
 void frmMain::mouseMoveEvent(QMouseEvent*) {
     Form_MouseMove();
+}
+
+bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) { // The pointer is a dialog's now.
+        Form_MouseMove();
+        PointAt({}, {});
+    }
+    return QWidget::event(event);
 }

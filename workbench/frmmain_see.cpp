@@ -2,7 +2,6 @@
 #include "controls/colours.h"
 #include "controls/handle.h"
 #include "controls/labellook.h"
-#include "controls/plaintext.h"
 #include "music/shape.h"
 #include "pictures/partnames.h"
 #include "workbench/frmmain.h"
@@ -37,13 +36,15 @@ void frmMain::cmdFindChord_Click() {
 }
 
 void frmMain::ShowState() {
+    // What is dragged is that barre, not one that is set later.
+    BarreDragging = BarreDragging && m_workbench.ShownBarre();
     ShowInstruments();
     ShowLabels();
     ShowHint();
     panel->picStrings->TellParts();
     panel->picKeyboard->TellParts();
     lblChord->setText(m_workbench.ChordName());
-    lblChord->setToolTip(PlainToolTip(m_workbench.ChordHint()));
+    lblChord->setToolTip(m_workbench.ChordHint());
     lblKeys->setText(m_workbench.MarkedNames());
     const Phrase rootMissing{QStringLiteral("Ни одна струна не даёт основного тона аккорда."),
                              QStringLiteral("No string sounds the root of the chord.")};
@@ -95,22 +96,34 @@ void frmMain::ShowNotice(const Phrase& notice) {
 }
 
 QString frmMain::Hint() {
+    if (lblChord->underMouse() && lblChord->IsCut())
+        return lblChord->text();
     const Tongue tongue = m_state.InterfaceTongue();
     const auto marked = m_workbench.Keys().Marked();
     if (m_pointed) {
         const auto note = m_workbench.NoteAt(m_pointed->row, m_pointed->fret);
         const int string = StringOfRow(m_pointed->row, m_state.ThinStringAtBottom);
-        return note ? CrossingHint(string, m_pointed->fret, *note, marked, tongue) : QString();
+        return note ? WithHelp(CrossingHint(string, m_pointed->fret, *note, marked, tongue))
+                    : WithHelp({});
     }
     const auto& keyboard = *panel->picKeyboard;
+    if (!m_pointedKey && m_restsOn != nullptr)
+        return WithHelp({});
     if (!m_pointedKey && !m_notice.isEmpty())
         return m_notice;
     if (m_pointedKey || keyboard.hasFocus())
-        return KeyHint(m_pointedKey.value_or(keyboard.FocusPart()), marked, tongue);
+        return WithHelp(KeyHint(m_pointedKey.value_or(keyboard.FocusPart()), marked, tongue));
     if (panel->picStrings->hasFocus()) {
         const auto focus = static_cast<std::size_t>(panel->picStrings->FocusPart());
         const QString part = panel->picStrings->Parts().parts[focus].name;
         return part.left(1).toUpper() + part.mid(1);
     }
     return {};
+}
+
+QString frmMain::WithHelp(const QString& hint) const {
+    if (m_restsOn == nullptr)
+        return hint;
+    const QString& help = m_restsOn->accessibleName();
+    return hint.isEmpty() ? help : hint + QStringLiteral(". ") + help;
 }

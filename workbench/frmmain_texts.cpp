@@ -120,6 +120,9 @@ void frmMain::ApplyTongue() {
         control->setToolTip(text);
         control->setAccessibleName(text);
     }
+    // Theirs would cover what one points at: lblHint says it.
+    panel->picStrings->setToolTip(QString());
+    panel->picKeyboard->setToolTip(QString());
     for (GoldButton* captioned : {cmdFindNew, cmdMakeBarre, GoldButton3}) {
         captioned->setAccessibleDescription(captioned->accessibleName());
         captioned->setAccessibleName(captioned->Caption());
@@ -142,5 +145,5 @@ void frmMain::ApplyTongue() {
     }
     Frame3->setAccessibleName(In(tongue, u"Барре", u"Barre"));
     Frame4->setAccessibleName(In(tongue, u"Звук", u"Sound"));
-    txtFind->setText(In(tongue, u"Введите тип аккорда", u"Enter a chord type"));
+    txtFind->SetPrompt(In(tongue, u"Введите тип аккорда", u"Enter a chord type"));
 }

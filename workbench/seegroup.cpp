@@ -7,7 +7,7 @@
 
 SeeGroup::SeeGroup(QWidget* window)
     : seeColumn(Spaced(new QVBoxLayout, 0)),
-      Label1(NewLabel(u"Label1", window)),
+      Label1(new QLabel(window)),
       lblChord(NewLabel(u"lblChord", window)),
       cmdFindChord(NewPictureButton(u"cmdFindChord", Icon::NameChord, window)),
       panel(new InstrumentPanel(window)),
@@ -22,14 +22,15 @@ SeeGroup::SeeGroup(QWidget* window)
 
 QLayout* SeeGroup::ChordLine(const QWidget* window) {
     const int side = lblChord->fontMetrics().height() * 2;
+    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1->setMouseTracking(true);
     Label1->setPixmap(
         MakeIcon(Icon::PlayStrings).pixmap(QSize(side, side), window->devicePixelRatio()));
     QFont large = lblChord->font();
     large.setPointSizeF(large.pointSizeF() * 1.9);
     large.setBold(true);
     lblChord->setFont(large);
-    lblChord->setTextFormat(Qt::PlainText);
-    lblChord->setMinimumHeight(lblChord->fontMetrics().height());
+    lblChord->setMinimumSize(1, lblChord->fontMetrics().height()); // No name widens the window.
     auto* line = Spaced(new QHBoxLayout, 0);
     line->addWidget(Label1);
     line->addWidget(lblChord, 1);
@@ -44,8 +45,7 @@ QLayout* SeeGroup::NoteLines() {
     grid->addWidget(Label7, 1, 0);
     grid->addWidget(lblNoS, 1, 1, Qt::AlignLeft); // As wide as its text: it may be filled.
     grid->setColumnStretch(1, 1);
-    for (QLabel* label : {lblKeys, lblNoS}) {
-        label->setTextFormat(Qt::PlainText);
+    for (TextLabel* label : {lblKeys, lblNoS}) {
         label->setMinimumWidth(1); // A long list must not widen the window.
         QFont bold = label->font();
         bold.setBold(true);

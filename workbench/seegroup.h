@@ -14,13 +14,13 @@ struct SeeGroup {
 
     QVBoxLayout* seeColumn; // For the window to place.
     QLabel* Label1;
-    QLabel* lblChord;
+    TextLabel* lblChord;
     GoldButton* cmdFindChord;
     InstrumentPanel* panel;
-    QLabel* Label2;
-    QLabel* lblKeys;
-    QLabel* Label7;
-    QLabel* lblNoS;
+    TextLabel* Label2;
+    TextLabel* lblKeys;
+    TextLabel* Label7;
+    TextLabel* lblNoS;
 
 private:
     QLayout* ChordLine(const QWidget* window);

@@ -11,12 +11,12 @@ TryGroup::TryGroup(QWidget* window)
       txtStr(NewTextBox(u"txtStr", QStringLiteral("1"), Frame2)),
       VScroll3(new UpScrollBar(QStringLiteral("VScroll3"), 1, stringCount, Frame2)),
       cmdFindNew(NewCaptionButton(u"cmdFindNew", Frame2)),
+      Command1(NewPictureButton(u"Command1", Icon::LayFingers, Frame2)),
+      Command2(NewPictureButton(u"Command2", Icon::ReadFingers, Frame2)),
       Frame3(NewFrame(u"Frame3", window)),
       cmdMakeBarre(NewCaptionButton(u"cmdMakeBarre", Frame3)),
       lstBarre(new DropDown(QStringLiteral("lstBarre"), Frame3)),
-      lstLadBarre(new DropDown(QStringLiteral("lstLadBarre"), Frame3)),
-      Command1(NewPictureButton(u"Command1", Icon::LayFingers, Frame2)),
-      Command2(NewPictureButton(u"Command2", Icon::ReadFingers, Frame2)) {
+      lstLadBarre(new DropDown(QStringLiteral("lstLadBarre"), Frame3)) {
     txtStr->setMaximumWidth(window->fontMetrics().horizontalAdvance(u'0') * 5);
     txtStr->setAlignment(Qt::AlignHCenter);
     VScroll3->setFixedHeight(std::max(txtStr->sizeHint().height(), 34));

@@ -16,10 +16,10 @@ struct TryGroup {
     QLineEdit* txtStr;
     QScrollBar* VScroll3;
     GoldButton* cmdFindNew;
+    GoldButton* Command1;
+    GoldButton* Command2;
     QGroupBox* Frame3;
     GoldButton* cmdMakeBarre;
     DropDown* lstBarre;
     DropDown* lstLadBarre;
-    GoldButton* Command1;
-    GoldButton* Command2;
 };

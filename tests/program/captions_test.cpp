@@ -1,5 +1,6 @@
 // Every shipped language in the real windows: no caption is clipped.
 #include "controls/application.h"
+#include "controls/textlabel.h"
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/mainwindow.h"
@@ -20,10 +21,13 @@ namespace {
 QString Clipped(const QWidget& window) {
     for (const auto* control : window.findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const QLabel*>(control);
-        const bool captioned = (label != nullptr && label->minimumWidth() != 1 &&
-                                !label->objectName().contains(u'(')) ||
-                               qobject_cast<const QAbstractButton*>(control) != nullptr ||
-                               qobject_cast<const QComboBox*>(control) != nullptr;
+        const auto* shown = qobject_cast<const TextLabel*>(control);
+        if (shown != nullptr && shown->isVisible() && shown->IsCut())
+            return shown->objectName();
+        const bool captioned =
+            (label != nullptr && shown == nullptr && !label->objectName().contains(u'(')) ||
+            qobject_cast<const QAbstractButton*>(control) != nullptr ||
+            qobject_cast<const QComboBox*>(control) != nullptr;
         if (captioned && control->isVisible() &&
             (control->width() < control->minimumSizeHint().width() ||
              control->height() < control->minimumSizeHint().height()))
@@ -41,7 +45,9 @@ QString Clipped(const QWidget& window) {
 void CaptionsTest::Languages_data() {
     QTest::addColumn<QString>("file");
     QTest::newRow("Russian") << QString();
-    for (const QString& file : LanguageFiles(QStringLiteral(PROGRAM_FOLDER "/")))
+    const QStringList files = LanguageFiles(QStringLiteral(PROGRAM_FOLDER "/"));
+    QCOMPARE(files.size(), 5); // Those that are shipped, and built before this test.
+    for (const QString& file : files)
         QTest::newRow(qPrintable(file)) << file;
 }
 
