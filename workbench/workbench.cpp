@@ -97,7 +97,6 @@ void Workbench::SwitchBarre() {
                  QStringLiteral("Barre: how many strings it covers is not chosen (lstBarre).")});
         m_barre = BarreOfLists();
     }
-    SetNotes(OpenNotes(m_state->StringNotes));
     PlaceFingers();
 }
 
