@@ -3,6 +3,7 @@
 #include "controls/application.h"
 #include "info/frmabout.h"
 #include "program/startup.h"
+#include "settings/frmsettings.h"
 #include "support/dialogs.h"
 #include "support/testfolder.h"
 
@@ -10,9 +11,11 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 #include <QTest>
 
 namespace {
@@ -54,9 +57,11 @@ private Q_SLOTS:
     void Help();
     void About();
     void Diagrams();
+    void TabGoesAsTheEyeDoes();
 
 private:
     void UseByKeyboard(QWidget& window);
+    void UseDialog(QWidget& opener, Qt::Key key, const std::function<void(QWidget&)>& prepare);
     void TabReachesEveryControl(QWidget& window);
     void TheFocusIsSeen(QWidget& window);
     void EveryControlHasAName(QWidget& window);
@@ -96,6 +101,8 @@ void KeyboardTest::TabReachesEveryControl(QWidget& window) {
         const auto* text = qobject_cast<QPlainTextEdit*>(focus);
         const bool types = text != nullptr && !text->tabChangesFocus() && !text->isReadOnly();
         QTest::keyClick(focus, Qt::Key_Tab, types ? Qt::ControlModifier : Qt::NoModifier);
+        if (expected.size() > 1 && !types)
+            QVERIFY2(window.focusWidget() != focus, Name(focus).constData());
     }
     for (QWidget* control : expected)
         QVERIFY2(reached.contains(control), Name(control).constData());
@@ -123,37 +130,42 @@ void KeyboardTest::MainWindow() {
     UseByKeyboard(m_start->Window());
 }
 
-void KeyboardTest::Settings() {
-    WhenModal([this](QWidget* dialog) {
-        QCOMPARE(dialog->focusWidget()->objectName(), QStringLiteral("Option2"));
+// The dialog that the key opens; the test fails where none comes.
+void KeyboardTest::UseDialog(QWidget& opener, Qt::Key key,
+                             const std::function<void(QWidget&)>& prepare) {
+    bool used = false;
+    WhenModal([&](QWidget* dialog) {
+        const auto close = qScopeGuard([dialog] { static_cast<QDialog*>(dialog)->reject(); });
+        used = true;
+        prepare(*dialog);
         UseByKeyboard(*dialog);
         QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
     });
-    QTest::keyClick(&m_start->Window(), Qt::Key_F10);
+    opener.setFocus();
+    QTest::keyClick(&opener, key);
+    QVERIFY(used);
     QVERIFY(QApplication::activeModalWidget() == nullptr);
+}
+
+void KeyboardTest::Settings() {
+    UseDialog(m_start->Window(), Qt::Key_F10, [](const QWidget& dialog) {
+        QCOMPARE(dialog.focusWidget()->objectName(), QStringLiteral("Option2"));
+    });
 }
 
 void KeyboardTest::SettingsOfOnesOwn() {
-    WhenModal([this](QWidget* dialog) {
-        auto* own = dialog->findChild<QAbstractButton*>(QStringLiteral("Option4"));
+    UseDialog(m_start->Window(), Qt::Key_F10, [](const QWidget& dialog) {
+        auto* own = dialog.findChild<QAbstractButton*>(QStringLiteral("Option4"));
         own->setFocus();
         QTest::keyClick(own, Qt::Key_Space);
-        QVERIFY(dialog->findChild<QWidget*>(QStringLiteral("lstTunings"))->isEnabled());
-        UseByKeyboard(*dialog);
-        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(dialog.findChild<QWidget*>(QStringLiteral("lstTunings"))->isEnabled());
     });
-    QTest::keyClick(&m_start->Window(), Qt::Key_F10);
 }
 
 void KeyboardTest::Help() {
-    WhenModal([this](QWidget* help) {
-        UseByKeyboard(*help);
-        QTest::keyClick(help, Qt::Key_Escape);
-    });
-    auto* button = m_start->Window().findChild<QWidget*>(QStringLiteral("cmdHelp"));
-    button->setFocus();
-    QTest::keyClick(button, Qt::Key_Space);
-    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    UseDialog(*m_start->Window().findChild<QWidget*>(QStringLiteral("cmdHelp")), Qt::Key_Space,
+              [](const QWidget&) {});
 }
 
 void KeyboardTest::About() {
@@ -177,6 +189,40 @@ void KeyboardTest::Diagrams() {
             return;
         }
     QFAIL("No sheet was opened.");
+}
+
+// Down the frames, and in each from the left to the right, line by line.
+void KeyboardTest::TabGoesAsTheEyeDoes() {
+    const auto order = [](QWidget& window, const QStringList& names) {
+        QStringList reached;
+        QWidget* control = window.findChild<QWidget*>(names.first());
+        for (int i = 0; i < 200 && reached.size() < names.size(); ++i) {
+            if (names.contains(control->objectName()))
+                reached += control->objectName();
+            control = control->nextInFocusChain();
+        }
+        return reached;
+    };
+    const QStringList trying{QStringLiteral("txtStr"),     QStringLiteral("VScroll3"),
+                             QStringLiteral("cmdFindNew"), QStringLiteral("Command1"),
+                             QStringLiteral("Command2"),   QStringLiteral("cmdMakeBarre"),
+                             QStringLiteral("lstBarre"),   QStringLiteral("lstLadBarre")};
+    QCOMPARE(order(m_start->Window(), trying), trying);
+    const frmSettings* settings = nullptr;
+    WhenModal([&](QWidget* dialog) {
+        const auto close = qScopeGuard([dialog] { static_cast<QDialog*>(dialog)->reject(); });
+        settings = qobject_cast<frmSettings*>(dialog);
+        QStringList names{QStringLiteral("Option1"), QStringLiteral("lstTunings")};
+        for (int string = 0; string < 6; ++string)
+            for (const char16_t* kind :
+                 {u"Text1(%1)", u"VScroll1(%1)", u"VScroll2(%1)", u"Image1(%1)"})
+                names += QString::fromUtf16(kind).arg(string);
+        names += {QStringLiteral("lstLang"), QStringLiteral("Check1"), QStringLiteral("cmdOK"),
+                  QStringLiteral("cmdCancel")};
+        QCOMPARE(order(*dialog, names), names);
+    });
+    QTest::keyClick(&m_start->Window(), Qt::Key_F10);
+    QVERIFY(settings != nullptr);
 }
 
 int main(int argc, char** argv) {
