@@ -38,6 +38,7 @@ start_desktop
     QT_SCALE_FACTOR=1 "$bench/voicings_bench" --benchmark_format=json --benchmark_filter=FindAll \
         2>/dev/null |
         sed -nE 's/.*"(median|worst)": ([0-9.e+]+).*/VoicingsOfAll_\1 \2/p'
+    run 1 texts_bench
 } >>"$figures"
 
 # A row: what, the names of its figures, their unit, the goal.
@@ -82,6 +83,9 @@ to the end or the beginning of these|1xEndAndHome/0 1xEndAndHome/1 1xEndAndHome/
 a letter typed that none of these begins with|1xSearchByLetter/0 1xSearchByLetter/1 1xSearchByLetter/2|ms|100
 voicings of C / C7 / C9 / C13, with fingers, ranked|1xFindOne/C 1xFindOne/C7 1xFindOne/C9 1xFindOne/C13|µs|100 each
 of 50 types on 12 roots in 36 tunings: median / worst|VoicingsOfAll_median VoicingsOfAll_worst|µs|100 / 2000
+chord type / scale with a name of 2,000,000 letters chosen and shown|1xEndlessChoose 1xEndlessScale|ms|100
+such a type looked for / named / played|1xEndlessSearch 1xEndlessName 1xEndlessPlay|ms|100
+the box with its other names opened and closed|1xEndlessBox|ms|100
 settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|ms|30 / 150
 help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
