@@ -48,7 +48,11 @@ constexpr Shade focus(0x1F5FAE, 0x7DB4F0);       // The ring around what the key
 constexpr Shade besideFocus(0xFFFFFF, 0x1A1815); // Inside it: one of the two is seen anywhere.
 constexpr Shade found(0xFFD966, 0x7A5A12);       // Behind words that were looked for.
 constexpr Shade toolTip(0xFFFBE6, 0x3B352C);
-constexpr Shade paper(0xFFFEFB, 0xFFFEFB); // Behind the prescribed black, blue and red.
+
+// Behind the prescribed black, blue and red, which a dark window would swallow.
+constexpr Shade plate(0xF6F2EA, 0xD8CBB0); // Around the neck.
+constexpr QColor mutedOnPlate(0x5A, 0x51, 0x46);
+constexpr QColor paper(0xFF, 0xFE, 0xFB); // Where red can be read, too.
 
 // On the wood of the neck, which is the same in both.
 constexpr QColor onWood(0xFF, 0xFE, 0xFB);
@@ -57,7 +61,6 @@ constexpr QColor onWoodRing(0x1F, 0x5F, 0xAE);
 
 // Prescribed on the instruments.
 constexpr QColor mark(0xFF, 0x00, 0x00);
-constexpr QColor behindMark(0x00, 0x00, 0x00); // Red text reads at 5.2 to 1 here, at 3.6 on window.
 constexpr QColor highlight(0x00, 0x00, 0xFF);
 constexpr QColor normalText(0x00, 0x00, 0x00);
 constexpr QColor whiteKey(0xFF, 0xFF, 0xFF);

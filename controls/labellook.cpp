@@ -11,7 +11,7 @@ void SetTextColour(QLabel* label, const QColor& colour) {
     palette.setColor(QPalette::WindowText, colour);
     // A muted string's label is grey, but still turns blue under the pointer.
     if (colour == Colours::normalText)
-        palette.setColor(QPalette::Disabled, QPalette::WindowText, Colours::mutedText);
+        palette.setColor(QPalette::Disabled, QPalette::WindowText, Colours::mutedOnPlate);
     label->setPalette(palette);
 }
 

@@ -4,6 +4,8 @@
 #include "controls/labellook.h"
 #include "pictures/keyboardlayout.h"
 
+#include <QPainter>
+
 #include <cmath>
 
 namespace {
@@ -82,6 +84,21 @@ QSize InstrumentPanel::sizeHint() const {
 
 void InstrumentPanel::resizeEvent(QResizeEvent*) {
     Place();
+}
+
+// One plate lies under the board, the fret numbers and the notes.
+void InstrumentPanel::paintEvent(QPaintEvent*) {
+    if (Colours::plate.Now() == Colours::window.Now())
+        return;
+    constexpr double margin = 3;
+    QRectF plate(picStrings->geometry());
+    for (const QLabel* label : {static_cast<QLabel*>(Label3.front()), Label4.front()})
+        plate |= QRectF(label->geometry());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Colours::plate);
+    painter.drawRoundedRect(plate.adjusted(-margin, -margin, margin, margin), margin, margin);
 }
 
 void InstrumentPanel::Place() {

@@ -4,6 +4,7 @@
 #include "pictures/keyboardlayout.h"
 #include "pictures/keyboardpainting.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace {
@@ -32,12 +33,19 @@ void PicKeyboard::Show(const KeyboardView& view) {
     update();
 }
 
+void PicKeyboard::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        m_picture = {}; // It ends in the window's colour.
+    TwipPicture::changeEvent(event);
+}
+
 void PicKeyboard::paintEvent(QPaintEvent*) {
     const QSize pixels = PixelSize();
     if (m_picture.size() != pixels) {
         m_picture = QPixmap(pixels);
         m_picture.setDevicePixelRatio(devicePixelRatio());
-        m_picture.fill(Colours::window.Now()); // The keys end somewhere within the last row of pixels.
+        m_picture.fill(
+            Colours::window.Now()); // The keys end somewhere within the last row of pixels.
         QPainter painter(&m_picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());

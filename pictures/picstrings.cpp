@@ -4,6 +4,7 @@
 #include "pictures/fretboardlayout.h"
 #include "pictures/neckpainting.h"
 
+#include <QEvent>
 #include <QPainter>
 
 PicStrings::PicStrings(QWidget* parent)
@@ -18,12 +19,19 @@ void PicStrings::Show(const FretboardView& view) {
     update();
 }
 
+void PicStrings::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        m_neck = {}; // It ends in the window's colour.
+    TwipPicture::changeEvent(event);
+}
+
 void PicStrings::paintEvent(QPaintEvent*) {
     const QSize pixels = PixelSize();
     if (m_neck.size() != pixels) {
         m_neck = QPixmap(pixels);
         m_neck.setDevicePixelRatio(devicePixelRatio());
-        m_neck.fill(Colours::window.Now()); // The neck ends somewhere within the last row of pixels.
+        m_neck.fill(
+            Colours::window.Now()); // The neck ends somewhere within the last row of pixels.
         QPainter painter(&m_neck);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());

@@ -51,7 +51,7 @@ void frmMain::ShowState() {
     const bool warn = m_workbench.Missing().rootMissing;
     lblNoS->setText(m_workbench.Missing().text);
     SetTextColour(lblNoS, warn ? Colours::mark : Colours::normalText);
-    lblNoS->setAutoFillBackground(warn);
+    lblNoS->setAutoFillBackground(!lblNoS->text().trimmed().isEmpty());
     lblNoS->setToolTip(warn ? rootMissing.In(m_state.InterfaceTongue()) : QString());
     {
         const QSignalBlocker silent(lstLadBarre);

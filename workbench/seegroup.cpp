@@ -51,9 +51,9 @@ QLayout* SeeGroup::NoteLines() {
         bold.setBold(true);
         label->setFont(bold);
     }
-    QPalette warning = lblNoS->palette();
-    warning.setColor(QPalette::Window, Colours::behindMark);
-    lblNoS->setPalette(warning);
+    QPalette paper = lblNoS->palette();
+    paper.setColor(QPalette::Window, Colours::paper);
+    lblNoS->setPalette(paper);
     lblNoS->setContentsMargins(layoutGap / 2, 0, layoutGap / 2, 0);
     Label7->setMinimumHeight(lblNoS->sizeHint().height());
     return grid;
