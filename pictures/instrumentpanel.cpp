@@ -92,7 +92,7 @@ void InstrumentPanel::paintEvent(QPaintEvent*) {
         return;
     constexpr double margin = 3;
     QRectF plate(picStrings->geometry());
-    for (const QLabel* label : {static_cast<QLabel*>(Label3.front()), Label4.front()})
+    for (const QWidget* label : std::initializer_list<QWidget*>{Label3.front(), Label4.front()})
         plate |= QRectF(label->geometry());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
