@@ -18,7 +18,7 @@ class Shade {
 public:
     constexpr Shade(QRgb light, QRgb dark) : m_light(light), m_dark(dark) {}
 
-    QColor In(Scheme scheme) const { return QColor(scheme == Scheme::Dark ? m_dark : m_light); }
+    QColor In(Scheme scheme) const { return {scheme == Scheme::Dark ? m_dark : m_light}; }
     QColor Now() const { return In(CurrentScheme()); }
     operator QColor() const { return Now(); }
     operator QBrush() const { return Now(); }

@@ -57,6 +57,12 @@ constexpr int minorThird = 3;
 constexpr int majorThird = 4;
 constexpr int fifth = 7;
 
+// The whole number nearest to one that is not negative, while compiling.
+constexpr int Rounded(double number) {
+    const int below = static_cast<int>(number);
+    return number - below < 0.5 ? below : below + 1;
+}
+
 // The cost of the reach by the lowest stopped fret and the steps to the highest one, on a neck
 // with a scale of 648 mm, each of whose frets shortens the string by the same part.
 constexpr std::size_t fretsOnNeck = highestVoicingFret + 1;
@@ -69,8 +75,8 @@ constexpr auto reachCost = [] {
     std::array<std::array<int, widestSpan + 1>, fretsOnNeck> costs{};
     for (std::size_t lowest = 1; lowest < fretsOnNeck; ++lowest)
         for (std::size_t span = 0; span <= widestSpan && lowest + span < fretsOnNeck; ++span)
-            costs[lowest][span] = static_cast<int>(
-                (rest[lowest] - rest[lowest + span]) * Cost::eachThirtyMillimetres / 30 + 0.5);
+            costs[lowest][span] =
+                Rounded((rest[lowest] - rest[lowest + span]) * Cost::eachThirtyMillimetres / 30);
     return costs;
 }();
 

@@ -30,8 +30,8 @@ DiagramLayout::DiagramLayout(const Diagram& diagram)
         lowest = lowest == 0 ? fret : std::min(lowest, fret);
         highest = std::max(highest, fret);
     };
-    for (const int fret : diagram.shape.frets)
-        reach(fret);
+    for (int string = 1; string <= stringCount; ++string)
+        reach(diagram.shape.Fret(string));
     for (const ShapeBarre& barre : diagram.shape.barres)
         reach(barre.fret);
     // What fits below the nut is shown there, as players know it.

@@ -54,7 +54,8 @@ void PaintGrid(QPainter& painter, const DiagramLayout& layout, const DiagramColo
     painter.setFont(FontOfSize(painter, positionSize, false));
     const bool numberAtLeft = layout.PositionRect().left() < grid.left();
     painter.drawText(layout.PositionRect(),
-                     Qt::AlignVCenter | (numberAtLeft ? Qt::AlignRight : Qt::AlignLeft),
+                     numberAtLeft ? Qt::AlignVCenter | Qt::AlignRight
+                                  : Qt::AlignVCenter | Qt::AlignLeft,
                      QString::number(layout.FirstFret()));
 }
 
