@@ -75,13 +75,7 @@ std::vector<Candidate> Candidates(const NameIndex& index, const Sounding& soundi
 }
 
 PlayersName ChordName(const NamedType& type, PitchClass root, PitchClass bass) {
-    PlayersName name;
-    name.text = RootName(root, type.notes) + type.suffix;
-    const int interval = PitchClassOf(bass - root);
-    if (interval != 0)
-        name.text +=
-            u'/' + (type.notes.Contains(interval) ? ChordNoteName(root, type.notes, interval)
-                                                  : RootName(bass, type.notes));
+    PlayersName name{ChordText(type, root, bass), {}, std::nullopt};
     if (type.entry != 0)
         name.chord = {root, type.entry};
     return name;
@@ -103,6 +97,16 @@ void Add(std::vector<PlayersName>& names, const PlayersName& name) {
 }
 
 } // namespace
+
+QString ChordText(const NamedType& type, PitchClass root, PitchClass bass) {
+    const QString text = RootName(root, type.notes) + type.suffix;
+    if (bass == root)
+        return text;
+    const int interval = PitchClassOf(bass - root);
+    return text + u'/' +
+           (type.notes.Contains(interval) ? ChordNoteName(root, type.notes, interval)
+                                          : RootName(bass, type.notes));
+}
 
 std::vector<int> SoundingPitches(const Shape& shape, const Tuning& tuning) {
     std::vector<int> pitches;

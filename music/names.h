@@ -28,6 +28,9 @@ struct PlayersName {
     }
 };
 
+// "Cm/Eb": a chord of the type over a root and a bass, chord note or not.
+QString ChordText(const NamedType& type, PitchClass root, PitchClass bass);
+
 // The pitches (MIDI numbers) of the strings that sound; those that name no note are left out.
 std::vector<int> SoundingPitches(const Shape& shape, const Tuning& tuning);
 
