@@ -38,6 +38,11 @@ void DropDown::SelectRow(int row) {
         setCurrentIndex(row);
 }
 
+void DropDown::ShowRow(int row) {
+    const QSignalBlocker silent(this);
+    setCurrentIndex(row);
+}
+
 void DropDown::showPopup() {
     m_rowAtPopup = currentIndex();
     QComboBox::showPopup();

@@ -17,6 +17,9 @@ public:
     // A run-time error for a row that is not there.
     void SelectRow(int row);
 
+    // Selects a row whose command has run; -1 selects nothing.
+    void ShowRow(int row);
+
     void showPopup() override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

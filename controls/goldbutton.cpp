@@ -1,5 +1,6 @@
 #include "controls/goldbutton.h"
 
+#include "controls/colours.h"
 #include "controls/focusring.h"
 #include "controls/goldbuttonpainting.h"
 #include "core/runtimeerror.h"
@@ -108,6 +109,10 @@ void GoldButton::paintEvent(QPaintEvent*) {
     look.palette = palette();
     look.part = static_cast<int>(state);
     look.edge = state == State::Down ? m_onDown : state == State::Hover ? m_onHover : m_onUp;
+    if (isChecked()) {
+        look.edge = m_onDown;
+        look.palette.setColor(QPalette::Button, Colours::checked.Now());
+    }
     look.caption = Caption();
     look.alignment = m_alignment;
     look.skinned = m_style == bsSkin;

@@ -212,9 +212,11 @@ void Paint(QPainter& painter, Icon icon) {
     case Icon::PlayStrings:
         PaintStrings(painter, {2, 6, 12, 12});
         return PaintTriangle(painter, {22.5, 12}, 6.5);
-    case Icon::Stop:
+    case Icon::Rings:
+        PaintStrings(painter, {2, 6, 20, 12});
         Fill(painter);
-        return painter.drawRoundedRect(QRectF(6, 6, 12, 12), 1.5, 1.5);
+        painter.drawRect(QRectF(3.5, 15, 6, 6));
+        return painter.drawEllipse(QRectF(14.5, 3, 6, 6));
     case Icon::LayFingers:
         PaintStrings(painter, {2.5, 3, 12, 8});
         PaintKeys(painter, {2.5, 14, 12, 8});

@@ -8,7 +8,7 @@ enum class Icon {
     NameChord,
     PlayKeys,
     PlayStrings,
-    Stop,
+    Rings,
     LayFingers,
     ReadFingers,
     Diagrams,

@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QStringListModel>
 
 ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent) {
@@ -62,6 +63,16 @@ void ListBox::SelectRow(int row) {
     else
         setCurrentIndex(model()->index(row, 0));
     scrollTo(model()->index(row, 0));
+}
+
+void ListBox::ShowRow(int row) {
+    if (row == Row())
+        return;
+    const QSignalBlocker silent(this);
+    if (row < 0)
+        selectionModel()->clear();
+    else
+        setCurrentIndex(model()->index(row, 0));
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

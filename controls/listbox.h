@@ -32,6 +32,9 @@ public:
     // nothing. A run-time error for any other row that is not there.
     void SelectRow(int row);
 
+    // Selects a row whose command has run; -1 selects nothing.
+    void ShowRow(int row);
+
 Q_SIGNALS:
     // Once for each click or change; -1 when nothing is selected any more.
     void RowChosen(int row);
