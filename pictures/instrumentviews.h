@@ -3,6 +3,7 @@
 #pragma once
 
 #include "music/fingering.h"
+#include "music/noteset.h"
 #include "music/pianokeys.h"
 #include "pictures/fretboardlayout.h"
 
@@ -14,11 +15,21 @@ struct BoardPlace {
     bool operator==(const BoardPlace&) const = default;
 };
 
+// Which notes have a ring wherever they lie on the neck, frets 1 to 15 of all strings.
+struct RingsView {
+    RowNotes open;                  // What the strings sound open.
+    NoteSet notes;                  // None while the rings are hidden.
+    std::optional<PitchClass> root; // It has another shape.
+
+    bool operator==(const RingsView&) const = default;
+};
+
 struct FretboardView {
     FretboardLayout layout;
     std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
     std::array<bool, stringCount> muted{};
     std::optional<Barre> barre;
+    RingsView rings;
     std::optional<int> soundingRow;
     std::optional<BoardPlace> pointed; // Under the pointer...
     QString pointedNote;               // ...and the note that a click would give.

@@ -41,6 +41,7 @@ void PicStrings::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, m_neck);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    m_rings.Paint(painter, m_view, Scale());
     painter.scale(Scale(), Scale());
     PaintMarks(painter, m_view);
     painter.restore();

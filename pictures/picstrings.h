@@ -2,7 +2,7 @@
 #pragma once
 
 #include "controls/twippicture.h"
-#include "pictures/instrumentviews.h"
+#include "pictures/ringpainting.h"
 
 #include <QPixmap>
 
@@ -19,5 +19,6 @@ protected:
 
 private:
     FretboardView m_view;
+    RingStamps m_rings;
     QPixmap m_neck; // What changes only with the size, the order of the strings and the hand.
 };
