@@ -74,6 +74,9 @@ keyboard painted anew, screen scale 1 / 2 / 4|1xPaintKeys 2xPaintKeys 4xPaintKey
 `tunings.dat` read, 50 / 10,000 / 1,000,000 records|1xReadCatalogue/tunings/50 1xReadCatalogue/tunings/10000 1xReadCatalogue/tunings/1000000|ms|linear
 chord named among 50 / 10,000 / 1,000,000 more types|1xRecognise/50 1xRecognise/10000 1xRecognise/1000000|ms|linear
 what sounds named by the built-in types / among 1,000,000 more|1xNameShape 1xNameShapeAmongMillion|µs|20 / 2000
+click on the neck to the painted name of what sounds|1xClickToName|ms|1.5
+a step taken back and shown, or done again|1xUndoAndRedo|ms|1
+rows found for what is typed among 50 / 10,000 / 1,000,000 more types, where none fits|1xOfferTypes/50 1xOfferTypes/10000 1xOfferTypes/1000000|ms|linear
 these types indexed by their notes, 50 / 10,000 / 1,000,000 more|1xIndexNames/50 1xIndexNames/10000 1xIndexNames/1000000|ms|linear
 type looked for that none of these is called|1xFindByName/50 1xFindByName/10000 1xFindByName/1000000|ms|linear
 start with three files of 1,000,000 records (elapsed)|StartMillion|ms|linear

@@ -5,6 +5,7 @@
 #include "core/tunings.h"
 #include "music/names.h"
 #include "music/spelling.h"
+#include "music/typedchord.h"
 #include "pictures/keyboardpainting.h"
 #include "pictures/neckpainting.h"
 #include "support/mainwindow.h"
@@ -41,6 +42,34 @@ void ChordChangeToPaint(benchmark::State& state) {
     }
 }
 BENCHMARK(ChordChangeToPaint)->Unit(benchmark::kMicrosecond);
+
+// Processor time from a click on the neck to the painted name of what sounds.
+void ClickToName(benchmark::State& state) {
+    MainWindow main;
+    main.window.resize(main.window.minimumSize());
+    QCoreApplication::processEvents();
+    int fret = 1;
+    for (auto _ : state) {
+        main.Click(main.board, FretboardLayout().MarkCentre(1, fret));
+        QCoreApplication::processEvents();
+        fret = fret % 12 + 1;
+    }
+}
+BENCHMARK(ClickToName)->Unit(benchmark::kMicrosecond);
+
+void UndoAndRedo(benchmark::State& state) {
+    MainWindow main;
+    main.window.lstType->SelectRow(7);
+    bool undo = true;
+    for (auto _ : state) {
+        if (undo)
+            main.window.Undo();
+        else
+            main.window.Redo();
+        undo = !undo;
+    }
+}
+BENCHMARK(UndoAndRedo)->Unit(benchmark::kMicrosecond);
 
 void ScaleChangeToPaint(benchmark::State& state) {
     MainWindow main;
@@ -138,6 +167,15 @@ void FindByName(benchmark::State& state) {
         benchmark::DoNotOptimize(FindChordType(types, QStringLiteral("none")));
 }
 BENCHMARK(FindByName)->Apply(Sizes);
+
+void OfferTypes(benchmark::State& state) {
+    const QTemporaryDir folder;
+    TextTable types = BuiltInChordTypes();
+    types.AppendDataFile(DataFile(folder, state.range(0), restOfChord));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(MatchTypedChord(types, QStringLiteral("Cx"), 8));
+}
+BENCHMARK(OfferTypes)->Apply(Sizes);
 
 std::vector<Shape> ShapesToName() {
     std::vector<Shape> shapes;

@@ -111,8 +111,7 @@ void StartUp::ShowSettings() {
         m_state, *m_midi, *m_clock,
         [this](const OpenStrings& strings, bool thinStringAtBottom) {
             LayStrings(m_state, strings, thinStringAtBottom);
-            m_workbench->StringsChanged();
-            m_window->ShowState();
+            m_window->StringsChanged();
         },
         m_window.get());
     GiveHelp(dialog);

@@ -29,6 +29,7 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     LayOut();
     ConnectChoose();
     ConnectSee();
+    ConnectNames();
     ConnectPoint();
     ConnectTry();
     ConnectHear();
@@ -67,12 +68,43 @@ void frmMain::SelectDefaults() {
     lstBase->SelectRow(0);
     lstLad->SelectRow(0);
     lstType->SelectRow(0);
+    ForgetSteps(); // A user has done nothing yet.
 }
 
 void frmMain::Do(const std::function<void()>& command) {
     m_notice.clear();
-    const auto show = qScopeGuard([this] { ShowState(); });
+    const Workbench before = m_workbench;
+    const auto show = qScopeGuard([&] {
+        m_history.Add(before, m_workbench);
+        ShowState();
+    });
     command();
+}
+
+void frmMain::Undo() {
+    if (m_history.Undo(m_workbench))
+        ShowState();
+}
+
+void frmMain::Redo() {
+    if (m_history.Redo(m_workbench))
+        ShowState();
+}
+
+void frmMain::StringsChanged() {
+    if (StringsNow() != m_strings)
+        ForgetSteps();
+    m_workbench.StringsChanged();
+    ShowState();
+}
+
+frmMain::LaidStrings frmMain::StringsNow() const {
+    return {m_state.StringNotes, m_state.SoundNumbers, m_state.ThinStringAtBottom};
+}
+
+void frmMain::ForgetSteps() {
+    m_history.Forget();
+    m_strings = StringsNow();
 }
 
 void frmMain::DoQuietly(const std::function<void()>& command) {

@@ -2,9 +2,11 @@
 // goes to the workbench; ShowState alone writes its state into the controls.
 #pragma once
 
+#include "music/names.h"
 #include "sound/playback.h"
 #include "workbench/choosegroup.h"
 #include "workbench/heargroup.h"
+#include "workbench/history.h"
 #include "workbench/keytable.h"
 #include "workbench/moregroup.h"
 #include "workbench/pictureparts.h"
@@ -17,6 +19,7 @@
 #include <span>
 
 class LanguageTexts;
+struct TypedChord;
 
 // The groups are bases for their controls to be the window's own. Their order is the order in
 // which Tab goes through them.
@@ -50,6 +53,13 @@ public:
     // Runs a command and shows what it did, also when a run-time error ends it.
     void Do(const std::function<void()>& command);
 
+    // Takes the last step back, or takes back that; nothing where there is none.
+    void Undo();
+    void Redo();
+
+    // The settings laid strings on the rows. Other ones than before leave nothing to undo.
+    void StringsChanged();
+
     // At the largest scale, in steps of a half, that leaves a fifth of the screen free; on a
     // small screen as large as there is room.
     void OpenAtBestSize();
@@ -69,9 +79,12 @@ public:
     void lstType_DblClick();
     void lstLad_Click(int row);
     void cmdFind_Click();
+    void txtFind_Chosen(const TypedChord& chord); // Of the rows that are offered while one types.
 
     // See.
     void cmdFindChord_Click();
+    void lblSounds_Click(int name);
+    void cmdRings_Click();
 
     // Point at the pictures and the labels around them. Places are in twips.
     void picStrings_MouseDown(Qt::MouseButton button, QPointF place);
@@ -127,6 +140,7 @@ private:
     void ShowBuiltInTexts();
     void ConnectChoose();
     void ConnectSee();
+    void ConnectNames();
     void ConnectPoint();
     void ConnectTry();
     void ConnectHear();
@@ -138,6 +152,8 @@ private:
     void StepBarre(int step);
     void ShowInstruments();
     void ShowLabels();
+    void ShowNames();
+    void ShowRows();
     void ShowHint();
     QString Hint();
     QString WithHelp(const QString& hint) const;
@@ -145,11 +161,30 @@ private:
     void RestOn(const TwipPicture* picture);
     bool IsOnBarre(double x) const;
 
+    // How the strings lie.
+    struct LaidStrings {
+        SixTexts notes;
+        SixTexts soundNumbers;
+        bool thinStringAtBottom = true;
+
+        bool operator==(const LaidStrings&) const = default;
+    };
+    LaidStrings StringsNow() const;
+    void ForgetSteps();
+
+    // The command of a key, by the modifiers of Form_KeyDown; empty for a key that has none.
+    std::function<void()> CommandOf(int key, int shift);
+    std::function<void()> CommandOf(const QKeyEvent& press);
+
     // The same as Do for the commands of the fretboard, which ignore a run-time error.
     void DoQuietly(const std::function<void()>& command);
 
     AppState& m_state;
     Workbench& m_workbench;
+    History m_history;
+    LaidStrings m_strings;               // That the steps in the history were done on.
+    std::optional<PlayersNames> m_names; // Of the catalogue, once it is filled.
+    std::vector<PlayersName> m_sounding;
     Playback m_playback;
     std::function<bool()> m_mayEnd;
     FretboardCommands m_fretboardCommands;

@@ -17,6 +17,7 @@ void frmMain::ConnectChoose() {
 
 void frmMain::ShowTypes() {
     lstType->setModel(new CatalogueModel(m_state.ChordTypes, lstType));
+    m_names.emplace(m_state.ChordTypes);
 }
 
 void frmMain::ShowScales() {

@@ -53,6 +53,9 @@ std::span<const KeyCommand> frmMain::KeyTable() {
         Command{Qt::Key_F8, any, [](frmMain& window) { window.Command1_Click(); }},
         Command{Qt::Key_F9, any, [](frmMain& window) { window.Command2_Click(); }},
         Command{Qt::Key_F10, any, [](frmMain& window) { Q_EMIT window.SettingsAsked(); }},
+        Command{Qt::Key_F12, any, [](frmMain& window) { window.cmdRings_Click(); }},
+        Command{Qt::Key_Z, ctrlKey, [](frmMain& window) { window.Undo(); }},
+        Command{Qt::Key_Z, ctrlKey | shiftKey, [](frmMain& window) { window.Redo(); }},
         Command{Qt::Key_Down, ctrlKey, [](frmMain& window) { window.StepRoot(1); }},
         Command{Qt::Key_Up, ctrlKey, [](frmMain& window) { window.StepRoot(-1); }},
         Command{Qt::Key_Down, altKey, [](frmMain& window) { window.StepType(1); }},
@@ -70,15 +73,32 @@ bool frmMain::Form_KeyDown(int key, int shift) {
         key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
     if (arrow) // The lists must not react to it as well.
         panel->picStrings->setFocus();
+    const auto command = CommandOf(key, shift);
+    if (command)
+        command();
+    return arrow || command;
+}
+
+std::function<void()> frmMain::CommandOf(int key, int shift) {
+    // A text field takes back what was typed in it.
+    if (key == Qt::Key_Z && qobject_cast<QLineEdit*>(focusWidget()) != nullptr)
+        return {};
     const auto table = KeyTable();
     const auto command =
         std::find_if(table.begin(), table.end(), [key, shift](const KeyCommand& row) {
             return row.key == key && (row.shift == shift || row.shift == any);
         });
     if (command == table.end())
-        return arrow;
-    command->run(*this);
-    return true;
+        return {};
+    return [this, run = command->run] { run(*this); };
+}
+
+std::function<void()> frmMain::CommandOf(const QKeyEvent& press) {
+    const int key = press.key();
+    const int shift = ModifierMask(press.modifiers());
+    if (!CommandOf(key, shift))
+        return {};
+    return [=, this] { Form_KeyDown(key, shift); };
 }
 
 void frmMain::StepRow(ListBox& list, int step, int rows) {

@@ -40,6 +40,7 @@ void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
     }
     if (IsOnBarre(place.x())) {
         BarreDragging = true;
+        m_history.BeginGesture();
         return;
     }
     const auto fret = LayoutOfFretboard(m_state).FretAt(place.x());
@@ -60,6 +61,7 @@ void frmMain::picStrings_MouseMove(QPointF place) {
 
 void frmMain::picStrings_MouseUp() {
     BarreDragging = false;
+    m_history.EndGesture();
 }
 
 void frmMain::picStrings_MouseLeave() {

@@ -7,8 +7,6 @@
 #include "workbench/frmmain.h"
 #include "workbench/views.h"
 
-#include <QSignalBlocker>
-
 void frmMain::ConnectSee() {
     m_fretboardCommands = {.press =
                                [this](int row, std::optional<int> fret) {
@@ -40,6 +38,8 @@ void frmMain::ShowState() {
     BarreDragging = BarreDragging && m_workbench.ShownBarre();
     ShowInstruments();
     ShowLabels();
+    ShowNames();
+    ShowRows();
     ShowHint();
     panel->picStrings->TellParts();
     panel->picKeyboard->TellParts();
@@ -53,11 +53,15 @@ void frmMain::ShowState() {
     SetTextColour(lblNoS, warn ? Colours::mark : Colours::normalText);
     lblNoS->setAutoFillBackground(!lblNoS->text().trimmed().isEmpty());
     lblNoS->setToolTip(warn ? rootMissing.In(m_state.InterfaceTongue()) : QString());
-    {
-        const QSignalBlocker silent(lstLadBarre);
-        lstLadBarre->setCurrentIndex(m_workbench.BarreFretRow());
-    }
     Q_EMIT StateShown();
+}
+
+void frmMain::ShowRows() {
+    lstBase->ShowRow(m_workbench.RootRow());
+    lstType->ShowRow(m_workbench.TypeRow());
+    lstLad->ShowRow(m_workbench.ScaleRow());
+    lstBarre->ShowRow(m_workbench.BarreStringsRow());
+    lstLadBarre->ShowRow(m_workbench.BarreFretRow());
 }
 
 void frmMain::ShowInstruments() {

@@ -22,6 +22,8 @@ constexpr std::array toolTips{
     ToolTip{u"cmdFind", u"Найти тип аккорда (F3)", u"Find the chord type (F3)"},
     ToolTip{u"cmdFindChord", u"Назвать аккорд по нажатым клавишам (Shift+F3)",
             u"Name the chord of the marked keys (Shift+F3)"},
+    ToolTip{u"cmdRings", u"Показать на грифе все ноты отмеченных клавиш (F12)",
+            u"Show all notes of the marked keys on the neck (F12)"},
     ToolTip{u"picStrings", u"Гриф: щелчок ставит палец, правая кнопка снимает всё",
             u"Fretboard: click to set a finger, right click to clear everything"},
     ToolTip{u"picKeyboard", u"Клавиатура: щелчок отмечает ноту, правая кнопка снимает все отметки",

@@ -25,7 +25,7 @@ void frmMain::cmdMakeBarre_Click() {
 }
 
 void frmMain::lstBarre_Click(int row) {
-    m_workbench.ChooseBarreStrings(row);
+    Do([&] { m_workbench.ChooseBarreStrings(row); });
 }
 
 void frmMain::lstLadBarre_Click(int row) {

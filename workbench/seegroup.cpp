@@ -10,12 +10,15 @@ SeeGroup::SeeGroup(QWidget* window)
       Label1(new QLabel(window)),
       lblChord(NewLabel(u"lblChord", window)),
       cmdFindChord(NewPictureButton(u"cmdFindChord", Icon::NameChord, window)),
+      lblSounds(new ChoiceLabel(QStringLiteral("lblSounds"), window)),
+      cmdRings(NewPictureButton(u"cmdRings", Icon::Rings, window)),
       panel(new InstrumentPanel(window)),
       Label2(NewLabel(u"Label2", window)),
       lblKeys(NewLabel(u"lblKeys", window)),
       Label7(NewLabel(u"Label7", window)),
       lblNoS(NewLabel(u"lblNoS", window)) {
     seeColumn->addLayout(ChordLine(window));
+    seeColumn->addWidget(lblSounds);
     seeColumn->addWidget(panel, 1);
     seeColumn->addLayout(NoteLines());
 }
@@ -35,6 +38,11 @@ QLayout* SeeGroup::ChordLine(const QWidget* window) {
     line->addWidget(Label1);
     line->addWidget(lblChord, 1);
     line->addWidget(cmdFindChord);
+    line->addWidget(cmdRings);
+    cmdRings->setCheckable(true);
+    QFont bold = lblSounds->font();
+    bold.setBold(true);
+    lblSounds->setFont(bold);
     return line;
 }
 

@@ -1,6 +1,7 @@
 // The controls for seeing a chord: its name, the two pictures, its notes.
 #pragma once
 
+#include "controls/choicelabel.h"
 #include "controls/goldbutton.h"
 #include "pictures/instrumentpanel.h"
 
@@ -16,6 +17,8 @@ struct SeeGroup {
     QLabel* Label1;
     TextLabel* lblChord;
     GoldButton* cmdFindChord;
+    ChoiceLabel* lblSounds;
+    GoldButton* cmdRings;
     InstrumentPanel* panel;
     TextLabel* Label2;
     TextLabel* lblKeys;

@@ -1,5 +1,24 @@
 #include "workbench/views.h"
 
+namespace {
+
+// The root is the chosen one, or the lowest key where that is not marked.
+RingsView RingsOf(const Workbench& workbench, const AppState& state) {
+    RingsView rings;
+    rings.open = OpenNotes(state.StringNotes);
+    const auto marked = workbench.Keys().Marked();
+    for (const int key : marked)
+        rings.notes.Add(key);
+    const int root = workbench.RootRow();
+    if (root >= 0 && rings.notes.Contains(root))
+        rings.root = root;
+    else if (!marked.empty())
+        rings.root = marked.front() % notesPerOctave;
+    return rings;
+}
+
+} // namespace
+
 FretboardLayout LayoutOfFretboard(const AppState& state) {
     return {.leftHanded = state.LeftHanded};
 }
@@ -9,6 +28,8 @@ FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state)
     view.layout = LayoutOfFretboard(state);
     view.barre = workbench.ShownBarre();
     view.thinStringAtBottom = state.ThinStringAtBottom;
+    if (workbench.RingsShown())
+        view.rings = RingsOf(workbench, state);
     for (int row = 0; row < stringCount; ++row) {
         view.marks[static_cast<std::size_t>(row)] = workbench.Row(row).mark;
         view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;

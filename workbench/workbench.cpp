@@ -25,6 +25,7 @@ void Workbench::ChooseRoot(int row, const QString& name) {
     m_rootName = name;
     if (m_rootRow < 0 || m_typeRow < 0)
         return;
+    BeginChoice(false);
     NameChosenChord();
     SpellChord();
     PlaceFingers();
@@ -34,10 +35,35 @@ void Workbench::ChooseType(int row) {
     m_typeRow = row;
     if (m_rootRow < 0 || m_typeRow < 0)
         return;
+    BeginChoice(false);
     NameChosenChord();
     m_chordHint = AlternativeNames();
     SpellChord();
     PlaceFingers();
+}
+
+void Workbench::ChooseChord(int rootRow, int typeRow, std::optional<PitchClass> bass) {
+    m_rootRow = rootRow;
+    m_rootName = NoteName(rootRow).toString();
+    ChooseType(typeRow);
+    m_preferredBass = bass;
+}
+
+void Workbench::ChooseNameOfHand(int rootRow, int typeRow) {
+    m_rootRow = rootRow;
+    m_rootName = NoteName(rootRow).toString();
+    m_typeRow = typeRow;
+    BeginChoice(false);
+    NameChosenChord();
+    m_chordHint = AlternativeNames();
+    ClearKeyMarks();
+    MarkChord();
+    FindMissing();
+}
+
+void Workbench::BeginChoice(bool showRings) {
+    m_preferredBass.reset();
+    m_ringsShown = showRings;
 }
 
 void Workbench::NameChosenChord() {
@@ -49,6 +75,10 @@ void Workbench::SpellChord() {
         return;
     ClearKeyMarks();
     ClearFingering();
+    MarkChord();
+}
+
+void Workbench::MarkChord() {
     const int root = SemitoneOf(m_rootName).value_or(-1);
     for (const int key :
          ChordKeys(root, m_state->ChordTypes.Field(ChordType::Structure, m_typeRow + 1)))
@@ -57,6 +87,8 @@ void Workbench::SpellChord() {
 }
 
 void Workbench::ChooseScale(int row, const QString& name) {
+    m_scaleRow = row;
+    BeginChoice(true);
     ClearKeyMarks();
     ClearFingering();
     m_keys.Mark(m_rootRow);

@@ -37,6 +37,13 @@ public:
     void ChooseRoot(int row, const QString& name);
     void ChooseType(int row);
     void ChooseScale(int row, const QString& name);
+
+    // A root and a type together, and the bass that is wanted under them until the next choice.
+    void ChooseChord(int rootRow, int typeRow, std::optional<PitchClass> bass);
+
+    // The same as the name of what the hand holds already: its fingers stay.
+    void ChooseNameOfHand(int rootRow, int typeRow);
+
     void ChooseBarreStrings(int row);
     void ChooseBarreFret(int row);
 
@@ -61,6 +68,9 @@ public:
     // Moves a barre that stands so many frets up the neck, within the frets of its list.
     void MoveBarre(int frets);
 
+    // The rings around the marked keys' notes on the neck. A scale shows them, a chord hides them.
+    void SwitchRings() { m_ringsShown = !m_ringsShown; }
+
     void ToggleKey(int key);
     void ClearKeyMarks();
 
@@ -84,6 +94,9 @@ public:
     // What the window shows.
     int RootRow() const { return m_rootRow; }
     int TypeRow() const { return m_typeRow; }
+    int ScaleRow() const { return m_scaleRow; }
+    std::optional<PitchClass> PreferredBass() const { return m_preferredBass; }
+    bool RingsShown() const { return m_ringsShown; }
     int BarreStringsRow() const { return m_barreStringsRow; }
     int BarreFretRow() const { return m_barreFretRow; }
     const PianoKeys& Keys() const { return m_keys; }
@@ -97,7 +110,9 @@ public:
 
 private:
     void SpellChord();
+    void MarkChord();
     void NameChosenChord();
+    void BeginChoice(bool showRings);
     void ClearFingering();
     void ShowMarkedKeyNames();
     void FindMissing();
@@ -114,6 +129,9 @@ private:
     int m_rootRow = -1;
     QString m_rootName;
     int m_typeRow = -1;
+    int m_scaleRow = -1;
+    std::optional<PitchClass> m_preferredBass; // Of the chosen chord; empty for its root.
+    bool m_ringsShown = false;
     int m_barreStringsRow = -1;
     int m_barreFretRow = -1;
 

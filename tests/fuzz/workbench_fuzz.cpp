@@ -9,7 +9,7 @@
 #include "music/spelling.h"
 #include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
-#include "workbench/workbench.h"
+#include "workbench/history.h"
 
 #include <algorithm>
 
@@ -101,6 +101,14 @@ void Do(Machine& machine, char command, int n) {
     case 's':
         return workbench.ChooseScale(RowOf(n, machine.state.Scales.Count()),
                                      QStringLiteral("scale"));
+    case 'C':
+        return workbench.ChooseChord(n % notesPerOctave, RowOf(n, machine.state.ChordTypes.Count()),
+                                     n % 3 > 0 ? std::optional(n % notesPerOctave) : std::nullopt);
+    case 'N':
+        return workbench.ChooseNameOfHand(n % notesPerOctave,
+                                          RowOf(n, machine.state.ChordTypes.Count()));
+    case 'R':
+        return workbench.SwitchRings();
     case 'b':
         return workbench.ChooseBarreStrings(n % (stringCount + 1) - 1);
     case 'f':
@@ -153,15 +161,27 @@ void Do(Machine& machine, char command, int n) {
     }
 }
 
+void CheckUndo(const Workbench& before, const Workbench& after) {
+    History history;
+    history.Add(before, after);
+    Workbench workbench = after;
+    Require(history.Undo(workbench) == !(before == after), "only a change is a step");
+    Require(workbench == before, "a step is taken back whole");
+    history.Redo(workbench);
+    Require(workbench == after, "a step comes back whole");
+}
+
 // What a user sees in the end.
 QString Run(AppState state, const QByteArray& commands) {
     Machine machine{state};
     machine.workbench.StringsChanged();
     for (qsizetype i = 0; i + 1 < commands.size(); i += 2) {
         const auto n = static_cast<quint8>(commands[i + 1] - '0');
+        const Workbench before = machine.workbench;
         const bool done = Succeeds([&] { Do(machine, commands[i], n); });
+        CheckUndo(before, machine.workbench);
         machine.namesOld =
-            !done || (machine.namesOld && !QByteArrayView("sKT").contains(commands[i]));
+            !done || (machine.namesOld && !QByteArrayView("sKTCN").contains(commands[i]));
         Check(machine);
     }
     const Workbench& workbench = machine.workbench;

@@ -207,6 +207,25 @@ class Russian(unittest.TestCase):
         moved = "струна 3, G, лад 2, A"
         repeat_until(move, lambda: moved in frets and moved in names)
 
+    def test_what_sounds_is_told_once(self):
+        told = self.listen("object:property-change:accessible-name")
+        thin = self.board.getChildAtIndex(5).queryValue()
+
+        def move():
+            for fret in (6, 3):  # A#, G.
+                thin.currentValue = fret
+
+        repeat_until(move, lambda: "C/E" in told)
+        thin.currentValue = 6
+        wait_until(lambda: named(self.window, "C7/E"))
+        told.clear()
+        thin.currentValue = 3
+        marked = "струна 1, E, лад 3, G"
+        wait_until(lambda: "C/E" in told and marked in told)
+        thin.currentValue = 15  # Another G.
+        wait_until(lambda: "струна 1, E, лад 15, G" in told)
+        self.assertEqual(told.count("C/E"), 1)
+
     def test_the_part_with_the_focus_is_told(self):
         focus = self.listen("object:state-changed:focused")
 
