@@ -146,6 +146,7 @@ private:
     void ConnectHear();
     void ConnectMore();
     void StepRow(ListBox& list, int step, int rows);
+    void GoToFind();
     void StepRoot(int step);
     void StepType(int step);
     void StepString(int step);

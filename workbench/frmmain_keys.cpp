@@ -54,6 +54,7 @@ std::span<const KeyCommand> frmMain::KeyTable() {
         Command{Qt::Key_F9, any, [](frmMain& window) { window.Command2_Click(); }},
         Command{Qt::Key_F10, any, [](frmMain& window) { Q_EMIT window.SettingsAsked(); }},
         Command{Qt::Key_F12, any, [](frmMain& window) { window.cmdRings_Click(); }},
+        Command{Qt::Key_F, ctrlKey, [](frmMain& window) { window.GoToFind(); }},
         Command{Qt::Key_Z, ctrlKey, [](frmMain& window) { window.Undo(); }},
         Command{Qt::Key_Z, ctrlKey | shiftKey, [](frmMain& window) { window.Redo(); }},
         Command{Qt::Key_Down, ctrlKey, [](frmMain& window) { window.StepRoot(1); }},
@@ -99,6 +100,12 @@ std::function<void()> frmMain::CommandOf(const QKeyEvent& press) {
     if (!CommandOf(key, shift))
         return {};
     return [=, this] { Form_KeyDown(key, shift); };
+}
+
+void frmMain::GoToFind() {
+    activateWindow(); // The key may have been pressed in another one.
+    txtFind->setFocus();
+    txtFind->selectAll();
 }
 
 void frmMain::StepRow(ListBox& list, int step, int rows) {

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void TheStringStepsOnlyFromAWholeStepAway();
     void TheSearchNeedsARootAndAType_data();
     void TheSearchNeedsARootAndAType();
+    void CtrlFGoesToTheSearchField();
 
 private:
     void Key(int key, Qt::KeyboardModifiers modifiers) {
@@ -139,6 +140,16 @@ void KeyTableTest::TheSearchNeedsARootAndAType() {
     QVERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(m_main->workbench.Row(4).mark, mark);
     QCOMPARE(m_main->Text(QStringLiteral("Label4"), 4), note);
+}
+
+void KeyTableTest::CtrlFGoesToTheSearchField() {
+    QLineEdit* field = m_main->window.txtFind;
+    field->setText(QStringLiteral("min"));
+    m_main->window.lstLad->setFocus();
+    Key(Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(field->hasFocus());
+    QCOMPARE(field->selectedText(), QStringLiteral("min"));
+    QCOMPARE(field->text(), QStringLiteral("min"));
 }
 
 int main(int argc, char** argv) {
