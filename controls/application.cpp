@@ -8,6 +8,7 @@
 
 #include <QLibraryInfo>
 #include <QPushButton>
+#include <QTimer>
 
 #include <new>
 
@@ -21,11 +22,6 @@ void Prepare(QMessageBox& box, const RunTimeError& error, Tongue tongue) {
     box.setWindowTitle(reportTitle.In(tongue));
     box.setText(error.What().In(tongue));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-}
-
-RunTimeError OutOfMemory() {
-    return RunTimeError({QStringLiteral("Не хватает памяти для этого действия."),
-                         QStringLiteral("There is not enough memory for this action.")});
 }
 
 } // namespace
@@ -61,12 +57,10 @@ void Application::Report(const RunTimeError& error) {
     box.setDefaultButton(goOn);
     box.setEscapeButton(goOn);
     box.exec();
-    if (box.clickedButton() != end)
-        return;
-    if (m_end)
-        m_end();
-    else
-        quit();
+    // Later: the action may have been the closing of the main window, which cannot be closed
+    // while it is being closed.
+    if (box.clickedButton() == end)
+        QTimer::singleShot(0, this, [this] { m_end ? m_end() : quit(); });
 }
 
 void Application::ReportAtStart(const RunTimeError& error) {

@@ -3,47 +3,44 @@
 #include "core/codepage.h"
 #include "core/datafile.h"
 
-#include <QFile>
-
+#include <algorithm>
 #include <tuple>
 
 namespace {
 
 constexpr qsizetype longestValue = 255;
+constexpr QByteArrayView lineEnd("\r\n");
+
+bool EndsLine(char byte) {
+    return byte == '\r' || byte == '\n';
+}
+
+// The line that begins there with its end: CR LF, a lone LF or a lone CR.
+QByteArrayView LineAt(QByteArrayView bytes, qsizetype start) {
+    const QByteArrayView rest = bytes.sliced(start);
+    qsizetype length = std::find_if(rest.begin(), rest.end(), EndsLine) - rest.begin();
+    if (length < rest.size())
+        length += rest.sliced(length).startsWith(lineEnd) ? 2 : 1;
+    return rest.first(length);
+}
 
 bool SameName(QStringView a, QStringView b) {
     return a.trimmed().compare(b.trimmed(), Qt::CaseInsensitive) == 0;
 }
 
-// The lines with their ends: CR LF, a lone LF or a lone CR.
-QList<QString> Lines(const QString& text) {
-    QList<QString> lines;
-    qsizetype start = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool crLf = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
-        if (crLf || (text[i] != u'\r' && text[i] != u'\n'))
-            continue;
-        lines.append(text.sliced(start, i + 1 - start));
-        start = i + 1;
-    }
-    if (start < text.size())
-        lines.append(text.sliced(start));
-    return lines;
+bool IsBlank(QByteArrayView line) {
+    return FromAnsi(line).trimmed().isEmpty();
 }
 
 // The name of a section line; nothing for any other line.
-std::optional<QStringView> SectionName(QStringView line) {
-    line = line.trimmed();
-    if (!line.startsWith(u'['))
+std::optional<QString> SectionName(QByteArrayView line) {
+    if (!line.contains('['))
         return std::nullopt;
-    const qsizetype end = line.lastIndexOf(u']');
-    if (end < 0)
+    const QString text = FromAnsi(line).trimmed();
+    const qsizetype end = text.lastIndexOf(u']');
+    if (!text.startsWith(u'[') || end < 0)
         return std::nullopt;
-    return line.sliced(1, end - 1);
-}
-
-bool EndsLine(QStringView line) {
-    return line.endsWith(u'\n') || line.endsWith(u'\r');
+    return text.sliced(1, end - 1);
 }
 
 QStringView WithoutQuotes(QStringView value) {
@@ -56,26 +53,27 @@ QStringView WithoutQuotes(QStringView value) {
 } // namespace
 
 ProfileFile ProfileFile::Read(const QString& path) {
-    QFile file(path);
-    const bool opened = file.open(QIODevice::ReadOnly);
-    ProfileFile profile = FromBytes(opened ? file.readAll() : QByteArray());
-    if (opened ? file.error() != QFileDevice::NoError : file.exists())
-        profile.m_unreadable = UnreadableFile(path, file.errorString());
+    ProfileFile profile;
+    if (!FileExists(path))
+        return profile;
+    FileContent content = TryToRead(path);
+    profile.m_bytes = std::move(content.bytes);
+    profile.m_unreadable = std::move(content.unreadable);
     return profile;
 }
 
 ProfileFile ProfileFile::FromBytes(const QByteArray& bytes) {
     ProfileFile profile;
-    profile.m_lines = Lines(FromAnsi(bytes));
+    profile.m_bytes = bytes;
     return profile;
 }
 
 std::optional<QString> ProfileFile::Value(const QString& section, const QString& key) const {
-    const qsizetype line = FindKey(FindSection(section), key);
-    if (line < 0)
+    const qsizetype start = FindKey(FindSection(section), key);
+    if (start < 0)
         return std::nullopt;
-    const QStringView text = m_lines[line];
-    const QStringView value = text.sliced(text.indexOf(u'=') + 1).trimmed();
+    const QByteArrayView line = LineAt(m_bytes, start);
+    const QString value = FromAnsi(line.sliced(line.indexOf('=') + 1)).trimmed();
     return WithoutQuotes(value).left(longestValue).toString();
 }
 
@@ -85,58 +83,69 @@ QString ProfileFile::Value(const QString& section, const QString& key,
 }
 
 void ProfileFile::SetValue(const QString& section, const QString& key, const QString& value) {
-    const QString lineEnd = QStringLiteral("\r\n");
+    const QByteArray written = ToAnsi(value) + lineEnd;
     const qsizetype sectionLine = FindSection(section);
     const qsizetype keyLine = FindKey(sectionLine, key);
     if (keyLine >= 0) {
-        QString& line = m_lines[keyLine];
-        line = line.left(line.indexOf(u'=') + 1) + value + lineEnd;
-    } else {
-        const QString header =
-            sectionLine < 0 ? QString(u'[' + section + u']' + lineEnd) : QString();
-        const qsizetype end = sectionLine < 0 ? m_lines.size() : EndOfSection(sectionLine);
-        if (end > 0 && !EndsLine(m_lines[end - 1]))
-            m_lines[end - 1] += lineEnd;
-        m_lines.insert(end, header + key + u'=' + value + lineEnd);
+        const QByteArrayView line = LineAt(m_bytes, keyLine);
+        const qsizetype valueStart = line.indexOf('=') + 1;
+        m_bytes.replace(keyLine + valueStart, line.size() - valueStart, written);
+        return;
     }
-    // A value with line breaks, or the header of a new section, made several lines.
-    m_lines = Lines(m_lines.join(QString()));
+    QByteArray added;
+    const qsizetype end = sectionLine < 0 ? m_bytes.size() : EndOfSection(sectionLine);
+    if (end > 0 && !EndsLine(m_bytes[end - 1]))
+        added += lineEnd;
+    if (sectionLine < 0)
+        added += '[' + ToAnsi(section) + ']' + lineEnd;
+    added += ToAnsi(key) + '=' + written;
+    m_bytes.insert(end, added);
 }
 
 QByteArray ProfileFile::ToBytes() const {
-    return ToAnsi(m_lines.join(QString()));
+    return m_bytes;
 }
 
 std::optional<Phrase> ProfileFile::Write(const QString& path) const {
-    return m_unreadable ? m_unreadable : ReplaceFile(path, ToBytes());
+    return m_unreadable ? m_unreadable : ReplaceFile(path, m_bytes);
 }
 
 qsizetype ProfileFile::FindSection(const QString& section) const {
-    for (qsizetype line = 0; line < m_lines.size(); ++line)
-        if (const auto name = SectionName(m_lines[line]); name && SameName(*name, section))
-            return line;
+    for (qsizetype start = 0; start < m_bytes.size();) {
+        const QByteArrayView line = LineAt(m_bytes, start);
+        if (const auto name = SectionName(line); name && SameName(*name, section))
+            return start;
+        start += line.size();
+    }
     return -1;
 }
 
 qsizetype ProfileFile::FindKey(qsizetype sectionLine, const QString& key) const {
     if (sectionLine < 0)
         return -1;
-    for (qsizetype line = sectionLine + 1; line < m_lines.size(); ++line) {
-        const QStringView text = m_lines[line];
-        if (SectionName(text))
+    qsizetype start = sectionLine + LineAt(m_bytes, sectionLine).size();
+    while (start < m_bytes.size()) {
+        const QByteArrayView line = LineAt(m_bytes, start);
+        if (SectionName(line))
             return -1;
-        const qsizetype equals = text.indexOf(u'=');
-        if (equals >= 0 && SameName(text.left(equals), key))
-            return line;
+        const qsizetype equals = line.indexOf('=');
+        if (equals >= 0 && SameName(FromAnsi(line.first(equals)), key))
+            return start;
+        start += line.size();
     }
     return -1;
 }
 
 qsizetype ProfileFile::EndOfSection(qsizetype sectionLine) const {
-    qsizetype end = sectionLine + 1;
-    for (qsizetype line = end; line < m_lines.size() && !SectionName(m_lines[line]); ++line)
-        if (!m_lines[line].trimmed().isEmpty())
-            end = line + 1;
+    qsizetype end = sectionLine + LineAt(m_bytes, sectionLine).size();
+    for (qsizetype start = end; start < m_bytes.size();) {
+        const QByteArrayView line = LineAt(m_bytes, start);
+        if (SectionName(line))
+            break;
+        start += line.size();
+        if (!IsBlank(line))
+            end = start;
+    }
     return end;
 }
 

@@ -4,13 +4,13 @@
 #include "core/phrase.h"
 
 #include <QByteArray>
-#include <QList>
 
 #include <optional>
 
 // One profile file in memory. Names of sections and keys are compared without regard to
 // case; the first section of a name counts, and in it the first key. Lines that are no
-// section and no key, comments among them, are kept as they are.
+// section and no key, comments among them, are kept as they are. It stays the bytes that it
+// is, so a large file costs no more than its size.
 class ProfileFile {
 public:
     // An absent or unreadable file is an empty one, as the platform reads it.
@@ -32,11 +32,12 @@ public:
     [[nodiscard]] std::optional<Phrase> Write(const QString& path) const;
 
 private:
+    // Where a line begins; -1 where there is none.
     qsizetype FindSection(const QString& section) const;
     qsizetype FindKey(qsizetype sectionLine, const QString& key) const;
     qsizetype EndOfSection(qsizetype sectionLine) const; // Behind its last line with text.
 
-    QList<QString> m_lines;             // Each with its own line end.
+    QByteArray m_bytes;
     std::optional<Phrase> m_unreadable; // Why a file that is there could not be read.
 };
 

@@ -5,6 +5,11 @@
 RunTimeError::RunTimeError(Phrase what)
     : m_what(std::move(what)), m_bytes(m_what.english.toUtf8()) {}
 
+RunTimeError OutOfMemory() {
+    return RunTimeError({QStringLiteral("Не хватает памяти для этого действия."),
+                         QStringLiteral("There is not enough memory for this action.")});
+}
+
 void CheckIndex(qint64 index, qint64 first, qint64 last, const Phrase& table) {
     if (index >= first && index <= last)
         return;
@@ -12,13 +17,12 @@ void CheckIndex(qint64 index, qint64 first, qint64 last, const Phrase& table) {
     const QString number = QString::number(index);
     if (last < first)
         throw RunTimeError(
-            {QStringLiteral("Выход за границы: %1 – нет элемента с номером %2 (список пуст).")
-                 .arg(table.russian, number),
-             QStringLiteral("Out of range: %1 – no element %2 (it is empty).")
+            {QStringLiteral("Список «%1» пуст: номера %2 в нём нет.").arg(table.russian, number),
+             QStringLiteral("There is no number %2 in %1: it is empty.")
                  .arg(table.english, number)});
     throw RunTimeError(
-        {QStringLiteral("Выход за границы: %1 – нет элемента с номером %2 (есть %3…%4).")
+        {QStringLiteral("В списке «%1» нет номера %2: его номера от %3 до %4.")
              .arg(table.russian, number, QString::number(first), QString::number(last)),
-         QStringLiteral("Out of range: %1 – no element %2 (there are %3 to %4).")
+         QStringLiteral("There is no number %2 in %1: it is numbered %3 to %4.")
              .arg(table.english, number, QString::number(first), QString::number(last))});
 }

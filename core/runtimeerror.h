@@ -18,5 +18,8 @@ private:
     QByteArray m_bytes;
 };
 
+// What is thrown, or reported, where the memory does not suffice.
+RunTimeError OutOfMemory();
+
 // Throws unless first <= index <= last. The table's name goes into the report.
 void CheckIndex(qint64 index, qint64 first, qint64 last, const Phrase& table);

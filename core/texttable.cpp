@@ -5,6 +5,7 @@
 #include "core/runtimeerror.h"
 
 #include <limits>
+#include <new>
 #include <utility>
 
 namespace {
@@ -27,9 +28,15 @@ void TextTable::AppendDataFile(const QString& path) {
         return;
     m_fileText = ReadWholeFile(path);
     m_recordStarts.clear();
-    if (m_fileText.size() > std::numeric_limits<quint32>::max())
-        throw RunTimeError({QStringLiteral("Файл «%1» слишком большой.").arg(path),
-                            QStringLiteral("The file “%1” is too large.").arg(path)});
+    try {
+        FindRecords();
+    } catch (const std::bad_alloc&) {
+        throw OutOfMemory();
+    }
+}
+
+void TextTable::FindRecords() {
+    static_assert(largestFile <= std::numeric_limits<quint32>::max());
     if (m_fileText.isEmpty())
         return;
     qsizetype recordStart = 0;

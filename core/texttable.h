@@ -42,6 +42,7 @@ public:
     bool FieldStartsWith(int field, int entry, QStringView text) const;
 
 private:
+    void FindRecords();
     int BuiltInCount() const;
     void CheckAddress(int field, int entry) const;
     QStringView BuiltInField(int field, int entry) const;

@@ -3,10 +3,14 @@
 #include "core/runtimeerror.h"
 #include "program/startup.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <new>
 
 int main(int argc, char** argv) {
-    Application application(argc, argv);
+    // The program has no options, and the toolkit's are not for its users either.
+    int nameAlone = std::min(argc, 1);
+    Application application(nameAlone, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tonvik"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tonvik"));
     StartUp start(application, QCoreApplication::applicationDirPath());
@@ -14,6 +18,9 @@ int main(int argc, char** argv) {
         start.Main();
     } catch (const RunTimeError& error) {
         application.ReportAtStart(error);
+        return EXIT_FAILURE;
+    } catch (const std::bad_alloc&) {
+        application.ReportAtStart(OutOfMemory());
         return EXIT_FAILURE;
     }
     return QApplication::exec();

@@ -96,6 +96,42 @@ private Q_SLOTS:
         OldFileAlone();
     }
 
+    // The folder takes no other file, the file itself may be written.
+    void AWritableFileIsWrittenInPlace_data() {
+        QTest::addColumn<qsizetype>("size");
+        QTest::newRow("shorter") << qsizetype{3};
+        QTest::newRow("longer") << qsizetype{20'000};
+        QTest::newRow("nothing") << qsizetype{0};
+    }
+    void AWritableFileIsWrittenInPlace() {
+        QFETCH(const qsizetype, size);
+        OpenToAll();
+        {
+            const OrdinaryUser user;
+            if (!user.Holds())
+                QSKIP("Permissions keep nobody out here.");
+            QCOMPARE(ReplaceFile(m_folder->Path(file), QByteArray(size, 'x')), std::nullopt);
+        }
+        QFile::setPermissions(m_folder->Path(), readable | QFileDevice::WriteOwner);
+        QCOMPARE(m_folder->Bytes(file), QByteArray(size, 'x'));
+        QCOMPARE(m_folder->Names(), QStringList{file});
+    }
+
+    void AFullDiskUnderAFileWrittenInPlace() {
+        OpenToAll();
+        std::optional<Phrase> failure;
+        {
+            const OrdinaryUser user;
+            const LittleRoom little(100);
+            if (!user.Holds() || !little.Holds())
+                QSKIP("Nobody is kept out here.");
+            failure = ReplaceFile(m_folder->Path(file), QByteArray(20'000, 'x'));
+        }
+        QVERIFY(Says(failure, file, file));
+        QFile::setPermissions(m_folder->Path(), readable | QFileDevice::WriteOwner);
+        OldFileAlone();
+    }
+
     void AFileThatMayNotBeRead() {
         QFile::setPermissions(m_folder->Path(), readable);
         QFile::setPermissions(m_folder->Path(file), QFileDevice::WriteOwner);
@@ -164,6 +200,14 @@ private:
     static constexpr QFileDevice::Permissions readable =
         QFileDevice::ReadOwner | QFileDevice::ExeOwner | QFileDevice::ReadGroup |
         QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::ExeOther;
+
+    void OpenToAll() {
+        QVERIFY(QFile::setPermissions(m_folder->Path(file),
+                                      QFileDevice::ReadOther | QFileDevice::WriteOther |
+                                          QFileDevice::ReadGroup | QFileDevice::WriteGroup |
+                                          QFileDevice::ReadOwner | QFileDevice::WriteOwner));
+        QVERIFY(QFile::setPermissions(m_folder->Path(), readable));
+    }
 
     void OldFileAlone() {
         QCOMPARE(m_folder->Bytes(file), before);
