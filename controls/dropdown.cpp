@@ -29,9 +29,7 @@ void DropDown::SetTexts(const QStringList& texts) {
 }
 
 void DropDown::SelectRow(int row) {
-    CheckIndex(row, 0, count() - 1,
-               {QStringLiteral("список %1").arg(objectName()),
-                QStringLiteral("the list %1").arg(objectName())});
+    CheckIndex(row, 0, count() - 1, {accessibleName(), accessibleName()});
     if (row == currentIndex())
         Q_EMIT RowChosen(row);
     else

@@ -55,9 +55,7 @@ void ListBox::SelectRow(int row) {
         selectionModel()->clear();
         return;
     }
-    CheckIndex(row, 0, RowCount() - 1,
-               {QStringLiteral("список %1").arg(objectName()),
-                QStringLiteral("the list %1").arg(objectName())});
+    CheckIndex(row, 0, RowCount() - 1, {accessibleName(), accessibleName()});
     if (row == Row())
         Q_EMIT RowChosen(row);
     else

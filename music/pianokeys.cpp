@@ -5,9 +5,16 @@
 namespace {
 
 void CheckKey(int key) {
-    if (key < 0 || key >= keyCount)
-        CheckIndex(key, 0, keyCount - 1,
-                   {QStringLiteral("клавиши фортепиано"), QStringLiteral("the piano's keys")});
+    if (key < 0)
+        throw RunTimeError({QStringLiteral("Нота выходит за клавиатуру: она ниже её клавиш."),
+                            QStringLiteral("The note lies past the keyboard: below its keys.")});
+    if (key >= keyCount)
+        throw RunTimeError({QStringLiteral("Нота выходит за клавиатуру: нужна клавиша %1 из %2.")
+                                .arg(key + 1)
+                                .arg(keyCount),
+                            QStringLiteral("The note lies past the keyboard: key %1 of %2.")
+                                .arg(key + 1)
+                                .arg(keyCount)});
 }
 
 } // namespace

@@ -16,6 +16,23 @@ void CheckRow(int row) {
                    {QStringLiteral("струны"), QStringLiteral("the strings")});
 }
 
+RunTimeError NoSuchRow(const QString& text) {
+    const Phrase asked = AsTyped(text);
+    return RunTimeError(
+        {QStringLiteral("Нет ряда с номером %1: их номера снизу от 1 до 6.").arg(asked.russian),
+         QStringLiteral("There is no row %1: they are numbered 1 to 6 from the bottom.")
+             .arg(asked.english)});
+}
+
+// The row of a text that counts them from 1; it need not be there.
+int RowOf(const QString& text) {
+    try {
+        return ToInteger16(LeadingNumber(text) - 1);
+    } catch (const RunTimeError&) {
+        throw NoSuchRow(text);
+    }
+}
+
 } // namespace
 
 Workbench::Workbench(const AppState& state) : m_state(&state) {}
@@ -168,12 +185,14 @@ void Workbench::ClearFretboard() {
 }
 
 void Workbench::FindNextFret(const QString& stringText) {
-    const int row = ToInteger16(LeadingNumber(stringText) - 1);
+    const int row = RowOf(stringText);
     if (m_typeRow < 0 || m_rootRow < 0)
         return;
     const auto marked = m_keys.Marked();
     if (marked.empty())
         return;
+    if (row < 0 || row >= stringCount)
+        throw NoSuchRow(stringText);
     StringRow& string = At(row);
     const auto open = SemitoneOf(m_state->StringNotes[static_cast<std::size_t>(row)]);
     if (!open)

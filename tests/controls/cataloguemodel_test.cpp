@@ -92,6 +92,7 @@ void CatalogueModelTest::TypingInAListSelectsTheRow() {
     list.show();
     QVERIFY(QTest::qWaitForWindowActive(&list));
     list.SelectRow(0);
+    QApplication::setKeyboardInputInterval(3'600'000); // However slowly the test types.
     QTest::keyClicks(&list, QStringLiteral("qui"));
     QCOMPARE(list.Row(), builtInRows + 3);
     QVERIFY(list.viewport()->rect().contains(list.visualRect(list.currentIndex()).center()));

@@ -12,6 +12,8 @@ class NumbersTest : public QObject {
 private Q_SLOTS:
     void LeadingNumbers_data();
     void LeadingNumbers();
+    void ANumberIsNamedAsItWasTyped_data();
+    void ANumberIsNamedAsItWasTyped();
     void SixteenBits();
 };
 
@@ -39,6 +41,32 @@ void NumbersTest::LeadingNumbers() {
     QFETCH(const QString, text);
     QFETCH(const double, number);
     QCOMPARE(LeadingNumber(text), number);
+}
+
+void NumbersTest::ANumberIsNamedAsItWasTyped_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("russian");
+    QTest::addColumn<QString>("english");
+    const auto number = [](const char* rule, const QString& text, const QString& shown) {
+        QTest::newRow(rule) << text << shown << shown;
+    };
+    number("digits", QStringLiteral(" 40000 "), QStringLiteral("40000"));
+    number("a number and text", QStringLiteral("7th"), QStringLiteral("7"));
+    number("an exponent", QStringLiteral("-1e6"), QStringLiteral("-1e6"));
+    number("beyond any number", QStringLiteral("1e999"), QStringLiteral("1e999"));
+    QTest::newRow("a text without a number")
+        << QStringLiteral(" abc 7") << QStringLiteral("«abc 7»") << QStringLiteral("\"abc 7\"");
+    QTest::newRow("nothing") << QString() << QStringLiteral("«»") << QStringLiteral("\"\"");
+    QTest::newRow("a sign alone") << QStringLiteral("-") << QStringLiteral("«-»")
+                                  << QStringLiteral("\"-\"");
+}
+
+void NumbersTest::ANumberIsNamedAsItWasTyped() {
+    QFETCH(const QString, text);
+    QFETCH(const QString, russian);
+    QFETCH(const QString, english);
+    QCOMPARE(AsTyped(text).russian, russian);
+    QCOMPARE(AsTyped(text).english, english);
 }
 
 void NumbersTest::SixteenBits() {

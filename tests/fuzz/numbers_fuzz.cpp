@@ -27,6 +27,11 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     Require(std::isfinite(number), "a number is finite");
     if (IsAscii(bytes))
         Require(number == NumberOfC(bytes), "a number is what C reads");
+    const QString text = FromAnsi(bytes);
+    const QString typed = AsTyped(text).english;
+    Require(text.contains(typed) ? LeadingNumber(typed) == number
+                                 : typed == u'"' + text.trimmed() + u'"' && number == 0,
+            "a number is named as it was typed");
     Succeeds([number] {
         const int whole = ToInteger16(number);
         Require(std::abs(whole - number) <= 0.5, "the nearest whole number");

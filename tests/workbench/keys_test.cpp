@@ -220,6 +220,7 @@ void KeysTest::OtherKeysReachTheirControl() {
 
 void KeysTest::LettersSearchTheLists() {
     m_main->window.lstLad->setFocus();
+    QApplication::setKeyboardInputInterval(3'600'000); // However slowly the test types.
     QTest::keyClicks(m_main->window.lstLad, QStringLiteral("pel"));
     QCOMPARE(m_main->window.lstLad->RowText(m_main->window.lstLad->Row()), QStringLiteral("Pelog"));
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("C Pelog"));
