@@ -1,6 +1,9 @@
 #include "diagrams/filedialogs.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
 
 namespace {
 
@@ -15,14 +18,47 @@ QStringList NameFilters(const QString& nulls) {
     return filters;
 }
 
-QString Run(QFileDialog& dialog, const QString& filter) {
+QString WithoutEnd(QString name) {
+    while (!name.isEmpty() && (name.back().isSpace() || name.back().isNull()))
+        name.chop(1);
+    return name;
+}
+
+// Blanks at the end of a name are taken off before the toolkit adds an extension and asks
+// whether the file may be overwritten.
+class FileDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override {
+        for (auto* name : findChildren<QLineEdit*>(QStringLiteral("fileNameEdit")))
+            name->setText(WithoutEnd(name->text()));
+        QFileDialog::accept();
+    }
+};
+
+// The desktop's own dialog has asked about the name that it was given.
+bool MayOverwrite(const QString& path, const QString& askedAbout, QWidget* ownerWindow) {
+    if (path == askedAbout || !QFileInfo::exists(path))
+        return true;
+    return QMessageBox::warning(ownerWindow, QFileDialog::tr("Save As"),
+                                QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
+                                    .arg(QFileInfo(path).fileName()),
+                                QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString Run(QFileDialog& dialog, const QString& filter, const QString& folder) {
     dialog.setNameFilters(NameFilters(FilterToNulls(filter)));
+    if (QFileInfo(folder).isDir())
+        dialog.setDirectory(folder);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
-    QString path = dialog.selectedFiles().constFirst().trimmed();
-    while (path.endsWith(QChar::Null))
-        path.chop(1);
-    return path;
+    const QString chosen = dialog.selectedFiles().constFirst();
+    const QString path = WithoutEnd(chosen);
+    const bool writes = dialog.acceptMode() == QFileDialog::AcceptSave;
+    return !writes || MayOverwrite(path, chosen, dialog.parentWidget()) ? path : QString();
 }
 
 } // namespace
@@ -31,17 +67,19 @@ QString FilterToNulls(const QString& filter) {
     return QString(filter).replace(u'|', QChar::Null);
 }
 
-QString OpenFileDialog(QWidget* ownerWindow, const QString& title, const QString& filter) {
-    QFileDialog dialog(ownerWindow, title);
+QString OpenFileDialog(QWidget* ownerWindow, const QString& title, const QString& filter,
+                       const QString& folder) {
+    FileDialog dialog(ownerWindow, title);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    return Run(dialog, filter);
+    return Run(dialog, filter, folder);
 }
 
-QString SaveFileDialog(QWidget* ownerWindow, const QString& title, const QString& filter) {
-    QFileDialog dialog(ownerWindow, title);
+QString SaveFileDialog(QWidget* ownerWindow, const QString& title, const QString& filter,
+                       const QString& folder) {
+    FileDialog dialog(ownerWindow, title);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(QStringLiteral("txt"));
-    return Run(dialog, filter);
+    return Run(dialog, filter, folder);
 }

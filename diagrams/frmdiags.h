@@ -2,34 +2,16 @@
 #pragma once
 
 #include "controls/goldbutton.h"
-#include "controls/listbox.h"
 #include "core/mdlmain.h"
+#include "diagrams/clicklist.h"
 #include "diagrams/fingeringcode.h"
+#include "diagrams/sheettext.h"
 
+#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 #include <functional>
-
-// A list whose rows are only selected by the arrow keys, and clicked by mouse or Enter.
-class ClickList : public ListBox {
-    Q_OBJECT
-
-public:
-    using ListBox::ListBox;
-
-Q_SIGNALS:
-    void Clicked(int row);
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    int m_pressedRow = -1;
-};
+#include <optional>
 
 class frmDiags : public QWidget {
     Q_OBJECT
@@ -50,10 +32,15 @@ public:
     void GoldButton2_Click(); // A run-time error for a line too long to be of use.
     void lstMain_Click(int row);
 
-    // Whether the program may end: asks when the text was not saved. False keeps it running.
+    // Whether the program may end: asks when the text was not saved, or rows were collected that
+    // were never written into it. False keeps it running.
     bool MayEnd();
 
-    QPlainTextEdit* txtMain;
+    // Brings the sheet to the front: where it was, or else, with room on the screen, beside what
+    // is to be seen meanwhile.
+    void OpenBeside(const QRect& seen);
+
+    SheetText* txtMain;
     ClickList* lstMain;
     QLineEdit* Text1;
     GoldButton* cmdAdd;
@@ -66,8 +53,10 @@ public:
     GoldButton* GoldButton1;
     GoldButton* GoldButton2;
     GoldButton* cmdSave;
+    QLabel* lblSaved; // Says that the file was saved, until the text changes.
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -76,11 +65,25 @@ private:
     void Connect();
     void ApplyTongue();
     void Form_Resize();
-    void Insert(const QString& text);
-    bool Save();
-    bool MayLoseText();
+    void ShowRows();
+    QString UnwrittenRows() const;
+    bool HasUnsavedText() const;
+
+    // Asks whether to save; what is saved is the text, and the addition behind it.
+    bool MayLose(const Phrase& question, const QString& addition);
+    bool Save(const QString& addition = {});
+    void Saved(const QString& path);
+
+    // A row of the list, and whether it was ever written into the text.
+    struct CollectedRow {
+        QString text;
+        bool written = false;
+    };
 
     AppState& m_state;
     std::function<BoardFingering()> m_board;
-    QStringList m_rows;
+    QList<CollectedRow> m_rows;
+    QString m_folder;              // The last that a file dialog chose a file of.
+    std::optional<QPoint> m_place; // Where the sheet was when it was closed.
+    bool m_new = true;             // The text was never opened or saved.
 };

@@ -1,12 +1,14 @@
 // The sheet's controls and where they stand.
 #include "diagrams/frmdiags.h"
 
-#include "controls/fixedfont.h"
 #include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/twips.h"
+#include "diagrams/placing.h"
 
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
 namespace {
 
@@ -35,11 +37,10 @@ void frmDiags::CreateControls() {
     GoldButton2 = Button(QStringLiteral("GoldButton2"), Icon::Dashes, this);
     Text1 = new QLineEdit(QStringLiteral("60"), this);
     Text1->setObjectName(QStringLiteral("Text1"));
-    txtMain = new QPlainTextEdit(this);
-    txtMain->setObjectName(QStringLiteral("txtMain"));
-    txtMain->setFont(FixedFont());
-    txtMain->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtMain->setTabChangesFocus(false);
+    txtMain = new SheetText(this);
+    lblSaved = new QLabel(this);
+    lblSaved->setObjectName(QStringLiteral("lblSaved"));
+    lblSaved->setTextFormat(Qt::PlainText);
 }
 
 // The list with its buttons on the left, the text with its own on the right.
@@ -71,6 +72,33 @@ void frmDiags::Form_Resize() {
     const auto pixels = [scale](int twips) { return qRound(twips * scale); };
     txtMain->resize(width() - txtMain->x() - pixels(200), height() - txtMain->y() - pixels(500));
     lstMain->resize(lstMain->width(), height() - lstMain->y() - pixels(400));
+    const int below = txtMain->y() + txtMain->height();
+    lblSaved->setGeometry(txtMain->x(), below, txtMain->width(), height() - below);
+}
+
+void frmDiags::OpenBeside(const QRect& seen) {
+    if (isMinimized())
+        showNormal();
+    if (!isVisible()) {
+        // What the window manager will put above the sheet, as far as it is known yet.
+        const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        const auto beside =
+            PlaceBeside(seen, size() + title, minimumSize() + title, screen()->availableGeometry());
+        if (!m_place && beside) {
+            resize(beside->size() - title);
+            m_place = beside->topLeft();
+        }
+        if (m_place)
+            move(*m_place);
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmDiags::closeEvent(QCloseEvent* event) {
+    m_place = pos();
+    QWidget::closeEvent(event);
 }
 
 void frmDiags::Connect() {
@@ -85,6 +113,7 @@ void frmDiags::Connect() {
     Handle(GoldButton2, &GoldButton::Click, this, &frmDiags::GoldButton2_Click);
     Handle(cmdSave, &GoldButton::Click, this, &frmDiags::cmdSave_Click);
     Handle(lstMain, &ClickList::Clicked, this, &frmDiags::lstMain_Click);
+    Handle(txtMain, &QPlainTextEdit::textChanged, lblSaved, &QLabel::clear);
     Handle(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this,
            &frmDiags::GoldButton1_Click);
     Handle(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
