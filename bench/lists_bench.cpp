@@ -46,7 +46,7 @@ struct Windows {
     }
 
     MainWindow main;
-    frmSettings settings{main.state, main.midi, main.clock, [](const OpenStrings&, bool) {}};
+    frmSettings settings{main.state, main.midi, main.clock, [](const Settings&) {}};
 };
 
 std::unique_ptr<Windows> shown; // As long as the application lives.

@@ -25,7 +25,7 @@ void OpenSettings(benchmark::State& state) {
     HandClock clock;
     RecordingPlayer midi(clock);
     for (auto _ : state) {
-        frmSettings dialog(shared, midi, clock, [](const OpenStrings&, bool) {});
+        frmSettings dialog(shared, midi, clock, [](const Settings&) {});
         dialog.Form_Load();
         dialog.show();
         QCoreApplication::processEvents();

@@ -20,26 +20,31 @@ QString LanguageTexts::DisplayName() const {
     return m_file.Value(QStringLiteral("Init"), QStringLiteral("Lang"), missingLanguageText);
 }
 
-LanguageChoice ChooseLanguage(AppState& state) {
-    const QString section = QStringLiteral("Settings");
-    const QString key = QStringLiteral("Language");
-    const QString name = ReadIni(state.SettingsFile(), section, key, defaultLanguage);
-    state.LanguageFile = defaultLanguage;
+LanguageChoice FindLanguage(const AppState& state, const QString& name) {
     if (name == defaultLanguage)
         return LanguageChoice::BuiltIn;
-    if (!QFileInfo(state.AppPath + name).isFile()) {
-        WriteIni(state.SettingsFile(), section, key, defaultLanguage);
-        return LanguageChoice::FileMissing;
-    }
-    state.LanguageFile = state.AppPath + name;
-    return LanguageChoice::File;
+    const QFileInfo file(state.AppPath + name);
+    return file.exists() && !file.isDir() ? LanguageChoice::File : LanguageChoice::FileMissing;
+}
+
+LanguageChoice ChooseLanguage(AppState& state, const QString& name) {
+    const LanguageChoice choice = FindLanguage(state, name);
+    state.LanguageFile = choice == LanguageChoice::File ? state.AppPath + name : defaultLanguage;
+    return choice;
+}
+
+void ForgetLanguage(const AppState& state) {
+    WriteIni(state.SettingsFile(), QStringLiteral("Settings"), QStringLiteral("Language"),
+             defaultLanguage);
 }
 
 QStringList LanguageFiles(const QString& appPath) {
     // QDir's name filters disregard case only where the file system does; ".LNG" counts too.
-    QStringList names = QDir(appPath).entryList(QDir::Files, QDir::NoSort);
-    names.removeIf([](const QString& name) {
-        return !name.endsWith(QStringLiteral(".lng"), Qt::CaseInsensitive);
+    // Among what it calls system files are pipes, which are listed, and links that lead nowhere.
+    QStringList names = QDir(appPath).entryList(QDir::Files | QDir::System, QDir::NoSort);
+    names.removeIf([&appPath](const QString& name) {
+        return !name.endsWith(QStringLiteral(".lng"), Qt::CaseInsensitive) ||
+               !QFileInfo::exists(appPath + name);
     });
     std::sort(names.begin(), names.end());
     return names;

@@ -27,9 +27,16 @@ private:
 
 enum class LanguageChoice { BuiltIn, File, FileMissing };
 
-// Reads which language the settings name and sets LanguageFile. A file that is missing
-// gives the built-in texts, now and, by a rewritten setting, at the next start.
-LanguageChoice ChooseLanguage(AppState& state);
+// What the name of a language in the settings leads to. A folder is no language file; what
+// cannot be read is one, whose texts are missing.
+LanguageChoice FindLanguage(const AppState& state, const QString& name);
+
+// Sets LanguageFile to the language of the settings; a missing file gives the built-in texts.
+LanguageChoice ChooseLanguage(AppState& state, const QString& name);
+
+// Writes the built-in language into the settings, so that the next start does not miss the file
+// again.
+void ForgetLanguage(const AppState& state);
 
 // The names of the language files in the program's folder, "*.lng" in any letter case,
 // sorted by name: the same order whenever it is asked for.

@@ -7,8 +7,21 @@ namespace {
 const QString settingsSection = QStringLiteral("Settings");
 const QString stringsSection = QStringLiteral("Strings");
 
+const QString userKey = QStringLiteral("User");
+const QString tuningRowKey = QStringLiteral("UserN");
+const QString languageKey = QStringLiteral("Language");
+const QString leftHandedKey = QStringLiteral("LeftHanded");
+const QString switchedOn = QStringLiteral("1");
+const QString defaultOfOwnKeys = QStringLiteral("0");
+
 QString KeyOf(std::size_t string, QChar kind) {
     return QString::number(string + 1) + kind;
+}
+
+// A key that the program adds to the format.
+void WriteOwn(ProfileFile& file, const QString& key, const QString& value) {
+    if (value != defaultOfOwnKeys || file.Value(settingsSection, key))
+        file.SetValue(settingsSection, key, value);
 }
 
 } // namespace
@@ -31,25 +44,39 @@ bool ThinAtBottom(StringLayout layout) {
     return layout == StringLayout::StandardThinAtBottom || layout == StringLayout::UserThinAtBottom;
 }
 
-StringLayout ReadLayout(const ProfileFile& settings) {
-    return LayoutOf(settings.Value(settingsSection, QStringLiteral("User"), QStringLiteral("2")));
-}
-
-OpenStrings ReadOpenStrings(const ProfileFile& settings) {
-    OpenStrings strings;
+Settings ReadSettings(const ProfileFile& file) {
+    Settings settings;
+    const auto read = [&file](const QString& section, const QString& key, QString& value) {
+        value = file.Value(section, key, value);
+    };
+    settings.layout = LayoutOf(file.Value(settingsSection, userKey, QStringLiteral("2")));
+    read(settingsSection, tuningRowKey, settings.tuningRow);
+    settings.language = file.Value(settingsSection, languageKey);
+    settings.leftHanded = file.Value(settingsSection, leftHandedKey) == switchedOn;
     for (std::size_t i = 0; i < stringCount; ++i) {
-        strings.notes[i] = settings.Value(stringsSection, KeyOf(i, u'S'), standardStrings.notes[i]);
-        strings.soundNumbers[i] =
-            settings.Value(stringsSection, KeyOf(i, u'K'), standardStrings.soundNumbers[i]);
+        read(stringsSection, KeyOf(i, u'S'), settings.strings.notes[i]);
+        read(stringsSection, KeyOf(i, u'K'), settings.strings.soundNumbers[i]);
     }
-    return strings;
+    return settings;
 }
 
-void WriteOpenStrings(ProfileFile& settings, const OpenStrings& strings) {
+void WriteSettings(ProfileFile& file, const Settings& settings) {
+    file.SetValue(settingsSection, userKey, QString::number(static_cast<int>(settings.layout)));
+    if (settings.HasUserTuning())
+        file.SetValue(settingsSection, tuningRowKey, settings.tuningRow);
     for (std::size_t i = 0; i < stringCount; ++i)
-        settings.SetValue(stringsSection, KeyOf(i, u'S'), strings.notes[i]);
+        file.SetValue(stringsSection, KeyOf(i, u'S'), settings.strings.notes[i]);
     for (std::size_t i = 0; i < stringCount; ++i)
-        settings.SetValue(stringsSection, KeyOf(i, u'K'), strings.soundNumbers[i]);
+        file.SetValue(stringsSection, KeyOf(i, u'K'), settings.strings.soundNumbers[i]);
+    if (settings.language)
+        file.SetValue(settingsSection, languageKey, *settings.language);
+    WriteOwn(file, leftHandedKey, settings.leftHanded ? switchedOn : defaultOfOwnKeys);
+}
+
+bool CanBeRemembered(const QString& language) {
+    ProfileFile file;
+    file.SetValue(settingsSection, languageKey, language);
+    return file.Value(settingsSection, languageKey) == language;
 }
 
 void LayStrings(AppState& state, const OpenStrings& strings, bool thinStringAtBottom) {
@@ -61,7 +88,7 @@ void LayStrings(AppState& state, const OpenStrings& strings, bool thinStringAtBo
     }
 }
 
-void LoadStartUpSettings(AppState& state) {
-    const ProfileFile settings = ProfileFile::Read(state.SettingsFile());
-    LayStrings(state, ReadOpenStrings(settings), ThinAtBottom(ReadLayout(settings)));
+void UseSettings(AppState& state, const Settings& settings) {
+    LayStrings(state, settings.strings, ThinAtBottom(settings.layout));
+    state.LeftHanded = settings.leftHanded;
 }

@@ -1,9 +1,10 @@
-// The settings that the program keeps in tonvik.ini: the strings and their order.
+// The settings that the program keeps in tonvik.ini: one record, read whole and written whole.
 #pragma once
 
+#include "core/language.h"
 #include "core/mdlmain.h"
 
-class ProfileFile;
+#include <optional>
 
 // How the strings lie and are tuned: the value of "User" in the section "Settings".
 enum class StringLayout {
@@ -27,15 +28,34 @@ struct OpenStrings {
 
 extern const OpenStrings standardStrings; // E B G D A E
 
-// What the settings say; the defaults where they say nothing. Values are not checked.
-StringLayout ReadLayout(const ProfileFile& settings);
-OpenStrings ReadOpenStrings(const ProfileFile& settings);
+// Everything that the settings file holds; its defaults are those of a missing file. Values
+// are not checked.
+struct Settings {
+    StringLayout layout = StringLayout::StandardThinAtBottom;
+    QString tuningRow = QStringLiteral("3"); // Of the list of tunings; counts with a user tuning.
+    OpenStrings strings = standardStrings;
+    std::optional<QString> language; // A file beside the program; empty where the file is silent.
+    bool leftHanded = false;
 
-void WriteOpenStrings(ProfileFile& settings, const OpenStrings& strings);
+    QString Language() const { return language.value_or(defaultLanguage); }
+    bool HasUserTuning() const {
+        return layout == StringLayout::UserThinAtTop || layout == StringLayout::UserThinAtBottom;
+    }
+};
+
+Settings ReadSettings(const ProfileFile& file);
+
+// Sets the keys in the order in which they are prescribed; the rest of the file stays. What the
+// program adds to the format is written only where it is not at its default or stands there.
+void WriteSettings(ProfileFile& file, const Settings& settings);
+
+// Whether the settings file gives the name back as it is: a name with letters that the code page
+// lacks, or blanks around it, is another one there.
+bool CanBeRemembered(const QString& language);
 
 // Hands strings over to the rows of the fretboard: with the thin string at the bottom
 // row 0, the lowest, takes string 1, otherwise string 6.
 void LayStrings(AppState& state, const OpenStrings& strings, bool thinStringAtBottom);
 
-// Reads the strings and their order from the settings file.
-void LoadStartUpSettings(AppState& state);
+// Puts the settings into force, all but the language, which waits for the next start.
+void UseSettings(AppState& state, const Settings& settings);

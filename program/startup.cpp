@@ -3,6 +3,7 @@
 #include "controls/application.h"
 #include "controls/handle.h"
 #include "core/language.h"
+#include "core/profile.h"
 #include "core/settings.h"
 #include "diagrams/frmdiags.h"
 #include "info/frmsplash.h"
@@ -30,6 +31,11 @@ StartUp::StartUp(Application& application, const QString& folder, std::unique_pt
 StartUp::~StartUp() = default;
 
 void StartUp::Main() {
+    const Settings settings = ReadSettings(ProfileFile::Read(m_state.SettingsFile()));
+    // A report of what comes before the language is loaded speaks it already.
+    m_application.SetTongue(FindLanguage(m_state, settings.Language()) == LanguageChoice::File
+                                ? Tongue::English
+                                : Tongue::Russian);
     m_splash->show();
     QApplication::processEvents();
     m_workbench = std::make_unique<Workbench>(m_state);
@@ -37,7 +43,7 @@ void StartUp::Main() {
     m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
     m_splash->ProgressStep();
     m_window->ShowTypes();
-    LoadLanguage();
+    LoadLanguage(settings.Language());
     m_splash->ProgressStep();
     m_window->ShowRoots();
     m_state.Scales.AppendDataFile(m_state.AppPath + QStringLiteral("scales.dat"));
@@ -46,7 +52,7 @@ void StartUp::Main() {
     m_state.Tunings.AppendDataFile(m_state.AppPath + QStringLiteral("tunings.dat"));
     m_splash->ProgressStep();
     m_workbench->SaveKeyColours();
-    LoadStartUpSettings(m_state);
+    UseSettings(m_state, settings);
     m_workbench->StringsChanged();
     if (m_state.IsDefaultLanguage()) {
         m_window->FillBuiltInLists();
@@ -62,15 +68,17 @@ void StartUp::Main() {
     m_window->show();
 }
 
-void StartUp::LoadLanguage() {
-    const LanguageChoice choice = ChooseLanguage(m_state);
+void StartUp::LoadLanguage(const QString& name) {
+    const LanguageChoice choice = ChooseLanguage(m_state, name);
     m_application.SetTongue(m_state.InterfaceTongue());
-    if (choice == LanguageChoice::FileMissing)
+    if (choice == LanguageChoice::FileMissing) {
         QMessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
                     QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
                                    "отсутствует!"),
                     QMessageBox::Ok)
             .exec();
+        ForgetLanguage(m_state);
+    }
     if (choice == LanguageChoice::File) {
         m_window->ApplyLanguage(LanguageTexts(m_state.LanguageFile));
         m_window->ApplyTongue();
@@ -92,7 +100,11 @@ void StartUp::ConnectWindows() {
     });
     Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
     Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
-    m_window->SetMayEnd([this] { return !m_diagrams || m_diagrams->MayEnd(); });
+    m_window->SetMayEnd([this] {
+        bool mayEnd = !m_diagrams; // What saving the sheet reports keeps the program running.
+        Application::Guard([&] { mayEnd = mayEnd || m_diagrams->MayEnd(); });
+        return mayEnd;
+    });
     m_application.SetEnd([this] { m_window->close(); });
 }
 
@@ -109,18 +121,16 @@ void StartUp::GiveHelp(QWidget& window) {
 void StartUp::ShowSettings() {
     frmSettings dialog(
         m_state, *m_midi, *m_clock,
-        [this](const OpenStrings& strings, bool thinStringAtBottom) {
-            LayStrings(m_state, strings, thinStringAtBottom);
+        [this](const Settings& settings) {
+            UseSettings(m_state, settings);
             m_window->StringsChanged();
         },
         m_window.get());
     GiveHelp(dialog);
-    Application::Guard([&dialog] { dialog.Form_Load(); });
+    dialog.Form_Load();
     dialog.exec();
     if (dialog.Unsaved())
-        m_window->ShowNotice(
-            {QStringLiteral("Настройки не запомнены. ") + dialog.Unsaved()->russian,
-             QStringLiteral("The settings were not remembered. ") + dialog.Unsaved()->english});
+        m_window->ShowNotice(*dialog.Unsaved());
 }
 
 void StartUp::ShowDiagrams() {
@@ -135,7 +145,8 @@ void StartUp::ShowDiagrams() {
         });
         GiveHelp(*m_diagrams);
     }
-    m_diagrams->show();
-    m_diagrams->raise();
-    m_diagrams->activateWindow();
+    const auto onScreen = [](const QWidget* control) {
+        return QRect(control->mapToGlobal(QPoint()), control->size());
+    };
+    m_diagrams->OpenBeside(onScreen(m_window->Frame1) | onScreen(m_window->panel->picStrings));
 }

@@ -31,7 +31,7 @@ public:
     AppState& State() { return m_state; }
 
 private:
-    void LoadLanguage();
+    void LoadLanguage(const QString& name);
     void ConnectWindows();
     void GiveHelp(QWidget& window); // By F1, as in the main window.
     void ShowSettings();

@@ -1,6 +1,7 @@
 // The settings dialog's algorithms and handlers.
 #include "settings/frmsettings.h"
 
+#include "controls/application.h"
 #include "core/language.h"
 #include "core/notes.h"
 #include "core/numbers.h"
@@ -10,15 +11,13 @@
 #include "settings/soundnumbers.h"
 #include "sound/playback.h"
 
-#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace {
-
-const QString settingsSection = QStringLiteral("Settings");
-const QString tuningRowKey = QStringLiteral("UserN");
 
 quint8 StringNumber(int index) {
     return static_cast<quint8>(index + 1);
@@ -26,6 +25,23 @@ quint8 StringNumber(int index) {
 
 QString Tag(const QObject* control) {
     return control->property("Tag").toString();
+}
+
+// The names of a tuning's notes, string 1 first; an empty text is none.
+QStringList TuningNotes(const TextTable& tunings, int row) {
+    const QString notes = tunings.Field(TuningDef::Notes, row + 1);
+    return notes.isEmpty() ? QStringList() : notes.split(u',');
+}
+
+RunTimeError ShortTuning(const QString& name, int notes) {
+    constexpr std::array<const char16_t*, stringCount> counted{
+        u"нет ни одной ноты", u"только 1 нота", u"только 2 ноты",
+        u"только 3 ноты",     u"только 4 ноты", u"только 5 нот"};
+    return RunTimeError(
+        {QStringLiteral("В строе «%1» %2 из шести.")
+             .arg(name, QString::fromUtf16(counted[static_cast<std::size_t>(notes)])),
+         QStringLiteral("The tuning \"%1\" has only %2 of its six notes.")
+             .arg(name, QString::number(notes))});
 }
 
 } // namespace
@@ -48,59 +64,94 @@ frmSettings::frmSettings(AppState& state, MidiPlayer& midi, Clock& clock, HandOv
 }
 
 void frmSettings::Form_Load() {
-    // The languages come last, but must stand in the list whatever the settings hold.
-    const auto languages = qScopeGuard([this] { ListLanguages(); });
-    LoadDialogSettings();
+    Application::Guard([this] { LoadDialogSettings(); });
+    Application::Guard([this] { ListLanguages(); });
 }
 
 void frmSettings::LoadDialogSettings() {
     const QScopedValueRollback filling(m_filling, true);
-    const ProfileFile settings = ProfileFile::Read(m_state.SettingsFile());
-    const StringLayout layout = ReadLayout(settings);
-    QRadioButton* chosen = Options[static_cast<std::size_t>(layout) - 1];
+    m_loaded = ReadSettings(ProfileFile::Read(m_state.SettingsFile()));
+    QRadioButton* chosen = Options[static_cast<std::size_t>(m_loaded.layout) - 1];
     chosen->setChecked(true);
     chosen->setFocus();
-    if (layout == StringLayout::UserThinAtTop || layout == StringLayout::UserThinAtBottom) {
-        const QString row = settings.Value(settingsSection, tuningRowKey, QStringLiteral("3"));
-        lstTunings->SelectRow(ToInteger16(LeadingNumber(row)));
+    Check2->setChecked(m_loaded.leftHanded);
+    // A tuning that is not there must not cost the strings.
+    if (m_loaded.HasUserTuning())
+        Application::Guard([this] { SelectTuning(m_loaded.tuningRow); });
+    ShowStrings(m_loaded.strings);
+}
+
+void frmSettings::SelectTuning(const QString& row) {
+    const double number = std::nearbyint(LeadingNumber(row));
+    const int last = lstTunings->RowCount() - 1;
+    if (number < -1 || number > last) {
+        const Phrase asked = AsTyped(row);
+        throw RunTimeError(
+            {QStringLiteral("В списке строев нет строки %1 (UserN в tonvik.ini): их номера от 0 "
+                            "до %2.")
+                 .arg(asked.russian, QString::number(last)),
+             QStringLiteral("The list of tunings has no row %1 (UserN in tonvik.ini): they are "
+                            "numbered 0 to %2.")
+                 .arg(asked.english, QString::number(last))});
     }
-    const OpenStrings strings = ReadOpenStrings(settings);
-    for (int index = 0; index < stringCount; ++index) {
-        const auto i = static_cast<std::size_t>(index);
+    lstTunings->SelectRow(static_cast<int>(number));
+}
+
+void frmSettings::ShowStrings(const OpenStrings& strings) {
+    std::optional<std::size_t> unknown;
+    for (std::size_t i = 0; i < stringCount; ++i) {
         Text1[i]->setText(strings.notes[i]);
         Text1[i]->setProperty("Tag", strings.soundNumbers[i]);
-        const int position = NoteIndexOf(strings.notes[i]);
-        const QString number = QString::number(index + 1);
-        CheckIndex(position, VScroll1[i]->minimum(), VScroll1[i]->maximum(),
-                   {QStringLiteral("нота «%1» струны %2").arg(strings.notes[i], number),
-                    QStringLiteral("the note “%1” of string %2").arg(strings.notes[i], number)});
-        VScroll1[i]->setValue(position);
+        if (const int position = NoteIndexOf(strings.notes[i]); position > 0)
+            VScroll1[i]->setValue(position);
+        else if (!unknown)
+            unknown = i;
     }
+    if (!unknown)
+        return;
+    const QString note = strings.notes[*unknown];
+    const QString number = QString::number(*unknown + 1);
+    throw RunTimeError(
+        {QStringLiteral("Нота «%1» струны %2 неизвестна: это не одно из двенадцати названий от C "
+                        "до B.")
+             .arg(note, number),
+         QStringLiteral("The note \"%1\" of string %2 is none of the twelve from C to B.")
+             .arg(note, number)});
 }
 
 std::optional<Phrase> frmSettings::SaveDialogSettings() {
-    const QString language = ChosenLanguage();
-    ProfileFile settings = ProfileFile::Read(m_state.SettingsFile());
-    const StringLayout layout = CheckedLayout();
-    settings.SetValue(settingsSection, QStringLiteral("User"),
-                      QString::number(static_cast<int>(layout)));
-    if (layout == StringLayout::UserThinAtTop || layout == StringLayout::UserThinAtBottom)
-        settings.SetValue(settingsSection, tuningRowKey, QString::number(lstTunings->Row()));
-    m_state.ThinStringAtBottom = ThinAtBottom(layout);
-    WriteOpenStrings(settings, Strings());
-    settings.SetValue(settingsSection, QStringLiteral("Language"), language);
-    return settings.Write(m_state.SettingsFile());
+    Settings settings = DialogSettings();
+    m_state.ThinStringAtBottom = ThinAtBottom(settings.layout);
+    const std::optional<QString> language = ChosenLanguage();
+    const bool lasts = language && CanBeRemembered(*language);
+    if (lasts)
+        settings.language = language;
+    ProfileFile file = ProfileFile::Read(m_state.SettingsFile());
+    WriteSettings(file, settings);
+    if (const auto failure = file.Write(m_state.SettingsFile()))
+        return Phrase{QStringLiteral("Настройки не запомнены. ") + failure->russian,
+                      QStringLiteral("The settings were not remembered. ") + failure->english};
+    if (!language)
+        throw RunTimeError(
+            {QStringLiteral("Язык не запомнен: его файла больше нет в папке программы."),
+             QStringLiteral("The language was not remembered: its file is no longer in the "
+                            "program's folder.")});
+    if (!lasts)
+        return Phrase{QStringLiteral("Язык не запомнен: имя файла «%1» нельзя записать в "
+                                     "tonvik.ini. Переименуйте его.")
+                          .arg(*language),
+                      QStringLiteral("The language was not remembered: tonvik.ini cannot hold the "
+                                     "file name \"%1\". Rename the file.")
+                          .arg(*language)};
+    return std::nullopt;
 }
 
-QString frmSettings::ChosenLanguage() const {
+std::optional<QString> frmSettings::ChosenLanguage() const {
     const int row = lstLang->Row();
     if (row < 1)
         return defaultLanguage;
     const QStringList files = LanguageFiles(m_state.AppPath);
-    CheckIndex(row, 1, files.size(),
-               {QStringLiteral("языковые файлы в папке программы"),
-                QStringLiteral("the language files in the program's folder")});
-    return files[row - 1];
+    return row <= files.size() ? std::optional(files[row - 1]) : std::nullopt;
 }
 
 void frmSettings::Option1_Click() {
@@ -129,11 +180,10 @@ void frmSettings::UseStandardTuning() {
 void frmSettings::lstTunings_Click(int row) {
     if (row < 0)
         return;
-    const QStringList notes = m_state.Tunings.Field(TuningDef::Notes, row + 1).split(u',');
+    const QStringList notes = TuningNotes(m_state.Tunings, row);
     for (int index = 0; index < stringCount; ++index) {
-        CheckIndex(index + 1, 1, notes.size(),
-                   {QStringLiteral("ноты строя «%1»").arg(lstTunings->RowText(row)),
-                    QStringLiteral("the notes of the tuning “%1”").arg(lstTunings->RowText(row))});
+        if (index == notes.size())
+            throw ShortTuning(lstTunings->RowText(row), index);
         Text1[static_cast<std::size_t>(index)]->setText(notes[index]);
     }
     SetSoundNumbers();
@@ -178,7 +228,7 @@ void frmSettings::Image1_Click(int index) {
 
 void frmSettings::cmdOK_Click() {
     m_unsaved = Check1->isChecked() ? SaveDialogSettings() : std::nullopt;
-    m_handOver(Strings(), ThinAtBottom(CheckedLayout()));
+    m_handOver(DialogSettings());
     accept();
 }
 
@@ -193,24 +243,25 @@ StringLayout frmSettings::CheckedLayout() const {
     return static_cast<StringLayout>(checked - Options.begin() + 1);
 }
 
-OpenStrings frmSettings::Strings() const {
-    OpenStrings strings;
+Settings frmSettings::DialogSettings() const {
+    Settings settings;
+    settings.layout = CheckedLayout();
+    settings.tuningRow = QString::number(lstTunings->Row());
     for (std::size_t i = 0; i < stringCount; ++i) {
-        strings.notes[i] = Text1[i]->text();
-        strings.soundNumbers[i] = Tag(Text1[i]);
+        settings.strings.notes[i] = Text1[i]->text();
+        settings.strings.soundNumbers[i] = Tag(Text1[i]);
     }
-    return strings;
+    settings.leftHanded = Check2->isChecked();
+    return settings;
 }
 
 void frmSettings::ListLanguages() {
     QStringList rows{QStringLiteral("Russian - default")};
     const QStringList files = LanguageFiles(m_state.AppPath);
-    int chosen = m_state.IsDefaultLanguage() ? 0 : -1;
-    for (const QString& file : files) {
-        if (m_state.AppPath + file == m_state.LanguageFile)
-            chosen = static_cast<int>(rows.size());
+    for (const QString& file : files)
         rows += LanguageTexts(m_state.AppPath + file).DisplayName() + QStringLiteral(" - ") + file;
-    }
     lstLang->SetTexts(rows);
-    lstLang->SelectRow(chosen);
+    const qsizetype chosen = files.indexOf(m_loaded.Language());
+    lstLang->SelectRow(
+        m_loaded.Language() == defaultLanguage || chosen >= 0 ? static_cast<int>(chosen) + 1 : -1);
 }

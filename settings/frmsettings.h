@@ -25,23 +25,24 @@ class frmSettings : public QDialog {
     Q_OBJECT
 
 public:
-    // handOver: takes the strings, string 1 first, and their order at OK.
-    using HandOver = std::function<void(const OpenStrings& strings, bool thinStringAtBottom)>;
+    // handOver: takes what the dialog says at OK.
+    using HandOver = std::function<void(const Settings& settings)>;
 
     frmSettings(AppState& state, MidiPlayer& midi, Clock& clock, HandOver handOver,
                 QWidget* parent = nullptr);
 
-    // Fills the dialog. A run-time error (a tuning that is not there, a note that is none)
-    // leaves it as far as it got; it can be used all the same.
+    // Fills the dialog. What is wrong in the settings (a tuning that is not there, a note that is
+    // none) is reported on the way, and the rest is filled in all the same.
     void Form_Load();
 
     void LoadDialogSettings();
 
-    // Writes the settings file whole, or leaves the old one and gives the reason. A run-time
-    // error when the chosen language file is no longer there; nothing is written then.
+    // Writes the settings file, or leaves the old one, and gives what was not remembered and why.
+    // A run-time error when the chosen language file is no longer there; all but the language
+    // is written then.
     std::optional<Phrase> SaveDialogSettings();
 
-    // After OK: why the settings file could not be written.
+    // After OK: what was not remembered and why.
     const std::optional<Phrase>& Unsaved() const { return m_unsaved; }
 
     void Option1_Click();
@@ -61,6 +62,7 @@ public:
     ListBox* lstLang;
     ListBox* lstTunings;
     QCheckBox* Check1;
+    QCheckBox* Check2;
     QPushButton* cmdOK;
     QPushButton* cmdCancel;
     std::array<QRadioButton*, 4> Options;          // Option1 to Option4.
@@ -81,14 +83,17 @@ private:
     void UseStandardTuning();
     void EnableStrings(bool enable);
     void SetSoundNumbers();
+    void SelectTuning(const QString& row);
+    void ShowStrings(const OpenStrings& strings);
     StringLayout CheckedLayout() const;
-    QString ChosenLanguage() const;
-    OpenStrings Strings() const;
+    std::optional<QString> ChosenLanguage() const; // Nothing where its file is gone.
+    Settings DialogSettings() const;               // All but the language.
 
     AppState& m_state;
     MidiPlayer& m_midi;
     Clock& m_clock;
     HandOver m_handOver;
+    Settings m_loaded; // What the settings file said when the dialog was filled.
     std::optional<Phrase> m_unsaved;
     bool m_filling = false; // No handler of the scroll bars runs.
 };

@@ -63,6 +63,7 @@ void frmSettings::CreateControls() {
     lstLang = new ListBox(QStringLiteral("lstLang"), Frame2);
     Check1 = Named(new QCheckBox(this), QStringLiteral("Check1"));
     Check1->setChecked(true);
+    Check2 = Named(new QCheckBox(Frame1), QStringLiteral("Check2"));
     cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
     cmdCancel = Named(new QPushButton(this), QStringLiteral("cmdCancel"));
@@ -115,6 +116,8 @@ void frmSettings::ApplyTongue() {
         name(VScroll2[i], u"Октава струны %1", u"Octave of string %1", i);
         name(Image1[i], u"Послушать струну %1", u"Listen to string %1", i);
     }
+    Check2->setText(
+        Phrase{QStringLiteral("Гриф для левши"), QStringLiteral("Left-handed neck")}.In(tongue));
     lstTunings->setAccessibleName(tongue == Tongue::Russian ? QStringLiteral("Строи")
                                                             : QStringLiteral("Tunings"));
     lstLang->setAccessibleName(Frame2->title());
@@ -127,6 +130,7 @@ void frmSettings::LayOut() {
         tuning->addWidget(option);
     lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 7);
     tuning->addWidget(lstTunings, 1);
+    tuning->addWidget(Check2);
 
     auto* language = new QVBoxLayout(Frame2);
     lstLang->setMinimumHeight(fontMetrics().height() * 7);

@@ -3,6 +3,7 @@
 
 #include "core/codepage.h"
 #include "core/mdlmain.h"
+#include "core/settings.h"
 #include "support/testfolder.h"
 
 #include <QTest>
@@ -11,6 +12,11 @@ namespace {
 
 const QString settings = QStringLiteral("tonvik.ini");
 const QString greek = QStringLiteral("greek.lng");
+
+// The language that the settings file names.
+QString Chosen(const AppState& state) {
+    return ReadSettings(ProfileFile::Read(state.SettingsFile())).Language();
+}
 
 } // namespace
 
@@ -37,7 +43,7 @@ private Q_SLOTS:
         AppState state;
         state.AppPath = folder.Path();
         state.LanguageFile = greek;
-        QCOMPARE(ChooseLanguage(state), LanguageChoice::BuiltIn);
+        QCOMPARE(ChooseLanguage(state, Chosen(state)), LanguageChoice::BuiltIn);
         QCOMPARE(state.LanguageFile, QStringLiteral("Default"));
         QVERIFY(state.IsDefaultLanguage());
         QCOMPARE(state.InterfaceTongue(), Tongue::Russian);
@@ -52,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(folder.Write(greek, "[Init]\r\nLang=Greek\r\n"));
         AppState state;
         state.AppPath = folder.Path();
-        QCOMPARE(ChooseLanguage(state), LanguageChoice::File);
+        QCOMPARE(ChooseLanguage(state, Chosen(state)), LanguageChoice::File);
         QCOMPARE(state.LanguageFile, folder.Path() + greek);
         QCOMPARE(state.InterfaceTongue(), Tongue::English);
         QCOMPARE(folder.Bytes(settings), bytes);
@@ -72,12 +78,15 @@ private Q_SLOTS:
                                            "\r\nUser=3\r\n[Strings]\r\n1S=D\r\n"));
         AppState state;
         state.AppPath = folder.Path();
-        QCOMPARE(ChooseLanguage(state), LanguageChoice::FileMissing);
+        const QByteArray before = folder.Bytes(settings);
+        QCOMPARE(ChooseLanguage(state, Chosen(state)), LanguageChoice::FileMissing);
         QCOMPARE(state.LanguageFile, QStringLiteral("Default"));
+        QCOMPARE(folder.Bytes(settings), before); // First it is told, then forgotten.
+        ForgetLanguage(state);
         QCOMPARE(folder.Bytes(settings),
                  QByteArray("; mine\r\n[Settings]\r\nLanguage=Default\r\nUser=3\r\n[Strings]\r\n"
                             "1S=D\r\n"));
-        QCOMPARE(ChooseLanguage(state), LanguageChoice::BuiltIn);
+        QCOMPARE(ChooseLanguage(state, Chosen(state)), LanguageChoice::BuiltIn);
     }
 
     void ANumberedKeyGivesItsText_data() {

@@ -45,7 +45,7 @@ private Q_SLOTS:
         AppState state;
         state.AppPath = folder.Path();
         state.ThinStringAtBottom = false;
-        LoadStartUpSettings(state);
+        UseSettings(state, ReadSettings(ProfileFile::Read(state.SettingsFile())));
         QVERIFY(state.ThinStringAtBottom);
         QCOMPARE(state.StringNotes, thinFirst);
         QCOMPARE(state.SoundNumbers, numbersThinFirst);
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(folder.Write(name, "[Settings]\r\nUser=" + ToAnsi(user) + "\r\n"));
         AppState state;
         state.AppPath = folder.Path();
-        LoadStartUpSettings(state);
+        UseSettings(state, ReadSettings(ProfileFile::Read(state.SettingsFile())));
         QCOMPARE(state.ThinStringAtBottom, thinAtBottom);
         QCOMPARE(state.StringNotes, thinAtBottom ? thinFirst : Reversed(thinFirst));
         QCOMPARE(state.SoundNumbers, thinAtBottom ? numbersThinFirst : Reversed(numbersThinFirst));
@@ -80,7 +80,7 @@ private Q_SLOTS:
 
     void AKeyThatIsMissingAloneTakesItsDefault() {
         const auto file = ProfileFile::FromBytes("[Strings]\r\n6S=D\r\n6K=46\r\n2K=24\r\n");
-        const OpenStrings strings = ReadOpenStrings(file);
+        const OpenStrings strings = ReadSettings(file).strings;
         QCOMPARE(strings.notes,
                  (SixTexts{QStringLiteral("E"), QStringLiteral("B"), QStringLiteral("G"),
                            QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("D")}));
@@ -93,27 +93,97 @@ private Q_SLOTS:
         const QByteArray longNote(300, 'x');
         const auto file = ProfileFile::FromBytes(
             "[Strings]\r\n1S=H\r\n1K=loud\r\n2S=\r\n3S=" + longNote + "\r\n");
-        const OpenStrings strings = ReadOpenStrings(file);
+        const OpenStrings strings = ReadSettings(file).strings;
         QCOMPARE(strings.notes[0], QStringLiteral("H"));
         QCOMPARE(strings.soundNumbers[0], QStringLiteral("loud"));
         QCOMPARE(strings.notes[1], QString());
         QCOMPARE(strings.notes[2], QString(255, u'x'));
     }
 
-    void WrittenStringsAreReadBack() {
-        const OpenStrings dropped{{QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("F#"),
-                                   QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("D")},
-                                  {QStringLiteral("22"), QStringLiteral("27"), QStringLiteral("30"),
-                                   QStringLiteral("34"), QStringLiteral("39"),
-                                   QStringLiteral("46")}};
+    void WhatIsWrittenIsReadBack() {
+        Settings settings;
+        settings.layout = StringLayout::UserThinAtTop;
+        settings.tuningRow = QStringLiteral("7");
+        settings.strings = {{QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("F#"),
+                             QStringLiteral("D"), QStringLiteral("A"), QStringLiteral("D")},
+                            {QStringLiteral("22"), QStringLiteral("27"), QStringLiteral("30"),
+                             QStringLiteral("34"), QStringLiteral("39"), QStringLiteral("46")}};
+        settings.language = QStringLiteral("x.lng");
+        settings.leftHanded = true;
         ProfileFile file;
-        WriteOpenStrings(file, dropped);
+        WriteSettings(file, settings);
         QCOMPARE(file.ToBytes(),
-                 QByteArray("[Strings]\r\n1S=D\r\n2S=A\r\n3S=F#\r\n4S=D\r\n5S=A\r\n6S=D\r\n"
+                 QByteArray("[Settings]\r\nUser=3\r\nUserN=7\r\nLanguage=x.lng\r\nLeftHanded=1\r\n"
+                            "[Strings]\r\n1S=D\r\n2S=A\r\n3S=F#\r\n4S=D\r\n5S=A\r\n6S=D\r\n"
                             "1K=22\r\n2K=27\r\n3K=30\r\n4K=34\r\n5K=39\r\n6K=46\r\n"));
-        const OpenStrings read = ReadOpenStrings(file);
-        QCOMPARE(read.notes, dropped.notes);
-        QCOMPARE(read.soundNumbers, dropped.soundNumbers);
+        const Settings read = ReadSettings(file);
+        QCOMPARE(read.layout, settings.layout);
+        QCOMPARE(read.tuningRow, settings.tuningRow);
+        QCOMPARE(read.strings.notes, settings.strings.notes);
+        QCOMPARE(read.strings.soundNumbers, settings.strings.soundNumbers);
+        QCOMPARE(read.language, settings.language);
+        QVERIFY(read.leftHanded);
+    }
+
+    void AStandardTuningKeepsTheRowOfTheList() {
+        ProfileFile file = ProfileFile::FromBytes("[Settings]\r\nUserN=9\r\n");
+        WriteSettings(file, {});
+        QVERIFY(file.ToBytes().startsWith("[Settings]\r\nUserN=9\r\nUser=2\r\n[Strings]"));
+    }
+
+    void TheRowOfTheListIsTheFourthUnlessItIsSaid() {
+        QCOMPARE(ReadSettings(ProfileFile()).tuningRow, QStringLiteral("3"));
+    }
+
+    void ALanguageThatIsNotSaidIsNotWritten() {
+        ProfileFile file;
+        QVERIFY(!ReadSettings(file).language);
+        QCOMPARE(ReadSettings(file).Language(), defaultLanguage);
+        WriteSettings(file, ReadSettings(file));
+        QVERIFY(!file.ToBytes().contains("Language"));
+    }
+
+    void TheLeftHandedNeckIsWrittenWhereItIsNotAtItsDefault_data() {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<bool>("leftHanded");
+        QTest::addColumn<QByteArray>("after"); // Behind the user's layout.
+        const QByteArray silent("[Settings]\r\nUser=2\r\n");
+        QTest::newRow("off and not there") << silent << false << QByteArray("[Strings]");
+        QTest::newRow("on and not there") << silent << true << QByteArray("LeftHanded=1");
+        QTest::newRow("off and there")
+            << QByteArray(silent + "LeftHanded=1\r\n") << false << QByteArray("LeftHanded=0");
+    }
+    void TheLeftHandedNeckIsWrittenWhereItIsNotAtItsDefault() {
+        QFETCH(const QByteArray, before);
+        QFETCH(const bool, leftHanded);
+        QFETCH(const QByteArray, after);
+        ProfileFile file = ProfileFile::FromBytes(before);
+        Settings settings = ReadSettings(file);
+        settings.leftHanded = leftHanded;
+        WriteSettings(file, settings);
+        QCOMPARE(file.ToBytes().split('\n')[2].trimmed(), after);
+    }
+
+    void OnlyOneSwitchesTheLeftHandedNeckOn() {
+        for (const char* value : {"0", "", "2", "11", "yes"})
+            QVERIFY(!ReadSettings(
+                         ProfileFile::FromBytes(QByteArray("[Settings]\r\nLeftHanded=") + value))
+                         .leftHanded);
+    }
+
+    void NamesThatTheFileWouldChangeAreNotRemembered_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("can");
+        QTest::newRow("Latin letters") << QStringLiteral("a b.lng") << true;
+        QTest::newRow("letters of the code page") << QStringLiteral("українська.lng") << true;
+        QTest::newRow("letters beyond it") << QStringLiteral("español.lng") << false;
+        QTest::newRow("blanks around it") << QStringLiteral(" x.lng") << false;
+        QTest::newRow("a line break") << QStringLiteral("a\nb.lng") << false;
+    }
+    void NamesThatTheFileWouldChangeAreNotRemembered() {
+        QFETCH(const QString, name);
+        QFETCH(const bool, can);
+        QCOMPARE(CanBeRemembered(name), can);
     }
 };
 

@@ -9,15 +9,14 @@ enum class Content { Old, New };
 
 // The settings as OK in the settings dialog writes them. What else the file holds is kept.
 inline void WriteSettings(const QString& path, Content content) {
-    OpenStrings strings = standardStrings;
+    Settings settings;
     if (content == Content::New)
-        strings.notes.fill(QStringLiteral("C#"));
-    ProfileFile settings = ProfileFile::Read(path);
-    settings.SetValue(QStringLiteral("Settings"), QStringLiteral("Language"),
-                      content == Content::New ? QStringLiteral("a rather long name.lng")
-                                              : QStringLiteral("Default"));
-    WriteOpenStrings(settings, strings);
-    if (settings.Write(path))
+        settings.strings.notes.fill(QStringLiteral("C#"));
+    settings.language =
+        content == Content::New ? QStringLiteral("a rather long name.lng") : defaultLanguage;
+    ProfileFile file = ProfileFile::Read(path);
+    WriteSettings(file, settings);
+    if (file.Write(path))
         qFatal("cannot write the settings");
 }
 

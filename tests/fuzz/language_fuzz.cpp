@@ -1,6 +1,7 @@
 // Any bytes as a language file and as the settings that choose it.
 #include "core/language.h"
 #include "core/mdlmain.h"
+#include "core/settings.h"
 #include "fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
@@ -22,10 +23,16 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
 
     AppState state;
     state.AppPath = folder.Path();
-    const LanguageChoice choice = ChooseLanguage(state);
+    const auto chosen = [&state] {
+        return ReadSettings(ProfileFile::Read(state.SettingsFile())).Language();
+    };
+    const LanguageChoice choice = ChooseLanguage(state, chosen());
     Require(state.IsDefaultLanguage() == (choice != LanguageChoice::File),
             "only a file that is there replaces the built-in texts");
-    if (choice == LanguageChoice::FileMissing)
-        Require(ChooseLanguage(state) == LanguageChoice::BuiltIn, "a start asks only once");
+    if (choice == LanguageChoice::FileMissing) {
+        ForgetLanguage(state);
+        Require(ChooseLanguage(state, chosen()) == LanguageChoice::BuiltIn,
+                "a start asks only once");
+    }
     return 0;
 }

@@ -18,7 +18,7 @@ namespace {
 AppState Start(const QString& appPath) {
     AppState state;
     state.AppPath = appPath;
-    LoadStartUpSettings(state);
+    UseSettings(state, ReadSettings(ProfileFile::Read(state.SettingsFile())));
     Workbench workbench(state);
     workbench.ChooseType(0);
     workbench.ChooseRoot(0, NoteName(0).toString());
@@ -61,11 +61,17 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     const QString path = folder.Write(QStringLiteral("tonvik.ini"), input.Rest());
     const bool thinAtBottom = Start(folder.Path()).ThinStringAtBottom;
 
-    ProfileFile settings = ProfileFile::Read(path);
-    WriteOpenStrings(settings, strings);
-    Require(!settings.Write(path), "the settings are written");
+    ProfileFile file = ProfileFile::Read(path);
+    Settings settings = ReadSettings(file);
+    Require(thinAtBottom == ThinAtBottom(settings.layout), "the order of the strings is read");
+    settings.strings = strings;
+    settings.leftHanded = !settings.leftHanded;
+    const bool leftHanded = settings.leftHanded;
+    WriteSettings(file, settings);
+    Require(!file.Write(path), "the settings are written");
     const AppState state = Start(folder.Path());
     Require(state.ThinStringAtBottom == thinAtBottom, "another setting stays");
+    Require(state.LeftHanded == leftHanded, "a switch is there at the next start");
     for (std::size_t row = 0; row < stringCount; ++row) {
         const std::size_t string = thinAtBottom ? row : stringCount - 1 - row;
         Require(state.StringNotes[row] == strings.notes[string] &&

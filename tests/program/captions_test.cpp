@@ -66,7 +66,7 @@ void CaptionsTest::Languages() {
     QVERIFY(main.window.minimumSizeHint().width() <= 1024);
     QVERIFY(main.window.minimumSizeHint().height() <= 560);
 
-    frmSettings settings(main.state, main.midi, main.clock, [](const OpenStrings&, bool) {});
+    frmSettings settings(main.state, main.midi, main.clock, [](const Settings&) {});
     settings.Form_Load();
     settings.show();
     QCoreApplication::processEvents();

@@ -81,7 +81,7 @@ void HostileLanguageTest::TheLongestLanguageFits() {
     QVERIFY(FitsASmallScreen(m_main->window));
 
     frmSettings settings(m_main->state, m_main->midi, m_main->clock,
-                         [](const OpenStrings&, bool) {});
+                         [](const Settings&) {});
     settings.Form_Load();
     QVERIFY(FitsASmallScreen(settings));
     settings.resize(smallScreen);
@@ -133,7 +133,7 @@ void HostileLanguageTest::MarkUpIsShownAsItStands() {
     for (int row = 0; row < stringCount; ++row)
         m_main->Find<TextLabel>(QStringLiteral("Label4(%1)").arg(row));
     const frmSettings settings(m_main->state, m_main->midi, m_main->clock,
-                               [](const OpenStrings&, bool) {});
+                               [](const Settings&) {});
     for (const QLabel* label : settings.StringLabels)
         QCOMPARE(label->textFormat(), Qt::PlainText);
 }
