@@ -1,17 +1,15 @@
-// Who wrote the program, as About and the splash show it. What is left blank is not shown.
+// Who wrote the program, as About and the splash show it.
 #pragma once
 
-#include <QString>
-#include <QStringView>
-
-constexpr QStringView authorName = u"";
-constexpr QStringView authorEmail = u"";
+#include "core/phrase.h"
 
 struct Author {
-    QString name;
-    QString email;
+    Phrase name;
+    QString email; // May be empty.
 };
 
 inline Author ProgramAuthor() {
-    return {authorName.toString(), authorEmail.toString()};
+    return {{QStringLiteral("разработчики программы «Тонвик»"),
+             QStringLiteral("The Tonvik developers")},
+            {}};
 }

@@ -62,7 +62,6 @@ void frmAbout::Form_Load(const AppState& state, const ChordRows& rows, const Aut
         Label7->setText(QStringLiteral("Chords at this time: ") + count);
     }
     Label4->setText(author.email);
-    Label3->setVisible(!author.name.isEmpty());
     Label4->setVisible(!author.email.isEmpty());
     const Tongue tongue = state.InterfaceTongue();
     Label4->setAccessibleName(
@@ -77,9 +76,8 @@ void frmAbout::ShowRussianTexts(const Author& author) {
     setWindowTitle(QStringLiteral("О программе"));
     Label1->setText(QStringLiteral("Тонвик"));
     Label2->setText(QStringLiteral("Версия 2.1-beta, платформа: Win9x/NT"));
-    if (!author.name.isEmpty())
-        Label3->setText(QStringLiteral("Автор программы: ") + author.name +
-                        (author.email.isEmpty() ? QString() : QStringLiteral(", ")));
+    Label3->setText(QStringLiteral("Автор программы: ") + author.name.russian +
+                    QStringLiteral(", "));
     Label5->setText(QStringLiteral("Программа распространяется бесплатно и «как есть»: автор не "
                                    "несёт ответственности за последствия её использования."));
     Label6->setText(QStringLiteral("Присылайте, пожалуйста, свои замечания и пожелания. Я, по "
@@ -90,11 +88,10 @@ void frmAbout::ShowEnglishTexts(const Author& author) {
     setWindowTitle(QStringLiteral("About"));
     Label1->setText(QStringLiteral("Tonvik"));
     Label2->setText(QStringLiteral("Version 2.1-beta, platform Win9x/NT"));
-    if (!author.name.isEmpty())
-        Label3->setText(QStringLiteral("Author of program: ") + author.name);
+    Label3->setText(QStringLiteral("Author of program: ") + author.name.english);
     Label5->setText(QStringLiteral("This program is distributed free of charge and \"as is\": its "
-                                   "author accepts no responsibility for the consequences of "
-                                   "using it."));
+                                   "author accepts no responsibility for the consequences of using "
+                                   "it."));
     Label6->setText(QStringLiteral(
         "If you have any questions, comments or suggestions, please mail them to me at the "
         "address above. I will try to fix any bugs or implement suggestions I receive (within "

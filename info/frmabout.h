@@ -17,8 +17,7 @@ class frmAbout : public InfoWindow {
     Q_OBJECT
 
 public:
-    // A run-time error where the chords are too many to be counted. What the author left
-    // blank is not shown.
+    // A run-time error where the chords are too many to be counted.
     frmAbout(const AppState& state, const ChordRows& rows, const Author& author = ProgramAuthor(),
              QWidget* parent = nullptr);
 

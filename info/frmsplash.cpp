@@ -88,13 +88,11 @@ frmSplash::frmSplash(const Author& author)
     title.setBold(true);
     AddText(QStringLiteral("Label1"), QStringLiteral("Tonvik 2.1"),
             QRect(360, 825, 4320, titleHeight), title);
-    const QString credit = CreditLine(author);
-    const int below = lineStep * (credit.isEmpty() ? 1 : 0); // No gap where the credit is blank.
     const auto place = [](int top) { return QRect(360, top, 6480, textHeight); };
     AddText(QStringLiteral("Label2"),
-            QStringLiteral("Version: 2.1-beta, platform: Win9x/NT, freeware"),
-            place(firstLine + below), font());
-    AddText(QStringLiteral("lblInfo"), credit, place(firstLine + lineStep), font());
+            QStringLiteral("Version: 2.1-beta, platform: Win9x/NT, freeware"), place(firstLine),
+            font());
+    AddText(QStringLiteral("lblInfo"), CreditLine(author), place(firstLine + lineStep), font());
     AddText(QStringLiteral("Label3"), QStringLiteral("Please, wait a minute..."),
             place(firstLine + 2 * lineStep), font());
     move(screen()->availableGeometry().center() - rect().center());
@@ -132,7 +130,6 @@ void frmSplash::AddText(const QString& name, const QString& text, const QRect& t
     label->setFont(fitting);
     // Room above and below for the letters that reach out of the font's size.
     label->setGeometry(place.adjusted(0, -place.height() / 4, 0, place.height() / 4));
-    label->setVisible(!text.isEmpty());
 }
 
 void frmSplash::paintEvent(QPaintEvent*) {
@@ -143,10 +140,6 @@ void frmSplash::paintEvent(QPaintEvent*) {
 }
 
 QString CreditLine(const Author& author) {
-    const QString label = QStringLiteral("Author: ");
-    if (author.name.isEmpty())
-        return author.email.isEmpty() ? QString() : label + author.email;
-    if (author.email.isEmpty())
-        return label + author.name;
-    return label + author.name + QStringLiteral(" (") + author.email + u')';
+    const QString line = QStringLiteral("Author: ") + author.name.english;
+    return author.email.isEmpty() ? line : line + QStringLiteral(" (") + author.email + u')';
 }

@@ -9,7 +9,6 @@ class frmSplash : public QWidget {
 public:
     static constexpr int steps = 5;
 
-    // What the author left blank is not shown.
     explicit frmSplash(const Author& author = ProgramAuthor());
 
     // Widens the bar by a fifth of its frame's width, and paints it at once.
@@ -34,5 +33,5 @@ private:
     float m_barWidth = 0;
 };
 
-// "Author: name (address)", without what is blank.
+// "Author: name (address)", or without an address that is empty.
 QString CreditLine(const Author& author);
