@@ -1,9 +1,12 @@
 // The program itself, started from odd places and in odd surroundings.
 #include "hostilesystem.h"
+#include "support/oddfiles.h"
 #include "support/testfolder.h"
 
 #include <QProcess>
 #include <QTest>
+
+#include <cstdlib>
 
 namespace {
 
@@ -32,7 +35,19 @@ private Q_SLOTS:
     void WithoutAHome();
     void FromAFolderThatMayNotBeWrittenInto();
     void AMissingLanguageFileIsToldOfOnce();
+    void WhatCannotBeReadEndsTheStart_data();
     void WhatCannotBeReadEndsTheStart();
+    void AReportBeforeTheLanguageIsLoaded_data();
+    void AReportBeforeTheLanguageIsLoaded();
+    void WhatIsNoFileEndsTheStart_data();
+    void WhatIsNoFileEndsTheStart();
+    void WhatIsNoFileIsEmptySettings_data() { OddFiles(); }
+    void WhatIsNoFileIsEmptySettings();
+    void WhatIsNoFileIsALanguageWithoutTexts_data() { OddFiles(); }
+    void WhatIsNoFileIsALanguageWithoutTexts();
+    void AMillionChordTypes();
+    void ArgumentsAreIgnored_data();
+    void ArgumentsAreIgnored();
     void ASecondStart();
     void AKilledProgramLeavesNoLock();
     void TheProgramFolderIsReplaced();
@@ -42,8 +57,10 @@ private:
     void Install(const QString& folder);
     QString Path(const QString& name) const { return m_folder->Path(name); }
 
-    // Starts it; what it said until it ended by itself, and its exit status.
-    QStringList Start(const QString& path, const QString& workingFolder = {});
+    // Starts it; what it said until it ended by itself, without a failure unless one is expected.
+    QStringList Start(const QString& path, const QString& workingFolder = {},
+                      const QStringList& arguments = {});
+    QStringList FailToStart();
 
     // Starts it to stay until EndsWell, which sees it end by itself.
     void StartAndStay(QProcess& started);
@@ -51,7 +68,7 @@ private:
 
     std::unique_ptr<TestFolder> m_folder;
     QProcessEnvironment m_environment;
-    int m_status = 0;
+    int m_expectedStatus = EXIT_SUCCESS;
 };
 
 void StartTest::init() {
@@ -71,15 +88,30 @@ void StartTest::Install(const QString& folder) {
                             "[Settings]\r\nLanguage=x.lng\r\n"));
 }
 
-QStringList StartTest::Start(const QString& path, const QString& workingFolder) {
+QStringList StartTest::Start(const QString& path, const QString& workingFolder,
+                             const QStringList& arguments) {
     QProcess started;
     started.setProcessEnvironment(m_environment);
     started.setWorkingDirectory(workingFolder);
-    started.start(path, QStringList());
-    if (!started.waitForFinished() || started.exitStatus() != QProcess::NormalExit)
+    started.start(path, arguments);
+    const bool ended = started.waitForFinished();
+    const QByteArray complaints = started.readAllStandardError();
+    if (!complaints.isEmpty())
+        qInfo("The program says: %s", complaints.constData());
+    if (!ended || started.exitStatus() != QProcess::NormalExit)
         return {QStringLiteral("It did not end by itself."), started.errorString()};
-    m_status = started.exitCode();
-    return QString::fromUtf8(started.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    QStringList said =
+        QString::fromUtf8(started.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    if (started.exitCode() != m_expectedStatus)
+        said += QStringLiteral("It ended with %1.").arg(started.exitCode());
+    return said;
+}
+
+QStringList StartTest::FailToStart() {
+    m_expectedStatus = EXIT_FAILURE;
+    QStringList said = Start(Path(QStringLiteral("a/tonvik")));
+    m_expectedStatus = EXIT_SUCCESS;
+    return said;
 }
 
 void StartTest::FromAnyWorkingFolder_data() {
@@ -95,7 +127,6 @@ void StartTest::FromAnyWorkingFolder() {
     QCOMPARE(Start(Path(QStringLiteral("a/tonvik")),
                    folder.isEmpty() ? Path(QStringLiteral("a")) : folder),
              QStringList{otherTitle});
-    QCOMPARE(m_status, 0);
 }
 
 void StartTest::InAnyFolder_data() {
@@ -115,7 +146,6 @@ void StartTest::InAnyFolder() {
     QCOMPARE(Start(Path(folder + u'/' + program)), QStringList{otherTitle});
     m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     QCOMPARE(Start(Path(folder + u'/' + program), QDir::rootPath()), QStringList{otherTitle});
-    QCOMPARE(m_status, 0);
 }
 
 void StartTest::ThroughALink_data() {
@@ -139,7 +169,7 @@ void StartTest::TheProgramFolderIsTheExecutables() {
     QVERIFY(QFile::remove(Path(QStringLiteral("a/x.lng"))));
     QVERIFY(m_folder->Write(QStringLiteral("x.lng"), "[Main]\r\n"));
     QVERIFY(m_folder->Write(QStringLiteral("tonvik.ini"), "[Settings]\r\nLanguage=x.lng\r\n"));
-    Start(Path(QStringLiteral("a/tonvik")), m_folder->Path());
+    QCOMPARE(Start(Path(QStringLiteral("a/tonvik")), m_folder->Path()).last(), russianTitle);
     QCOMPARE(m_folder->Bytes(QStringLiteral("a/tonvik.ini")),
              QByteArray("[Settings]\r\nLanguage=Default\r\n"));
     QCOMPARE(m_folder->Bytes(QStringLiteral("tonvik.ini")),
@@ -162,7 +192,6 @@ void StartTest::WithoutAHome() {
     if (!home.isEmpty())
         m_environment.insert(QStringLiteral("HOME"), home);
     QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{otherTitle});
-    QCOMPARE(m_status, 0);
 }
 
 void StartTest::FromAFolderThatMayNotBeWrittenInto() {
@@ -182,7 +211,6 @@ void StartTest::FromAFolderThatMayNotBeWrittenInto() {
     QCOMPARE(said.size(), 2);
     QVERIFY(said.first().startsWith(QStringLiteral("message: Файл, указанный как языковой")));
     QCOMPARE(said.last(), russianTitle);
-    QCOMPARE(m_status, 0);
 }
 
 void StartTest::AMissingLanguageFileIsToldOfOnce() {
@@ -192,15 +220,105 @@ void StartTest::AMissingLanguageFileIsToldOfOnce() {
     QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{russianTitle});
 }
 
+namespace {
+
+void DataFiles() {
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"chords.dat", "scales.dat", "tunings.dat"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+} // namespace
+
+void StartTest::WhatCannotBeReadEndsTheStart_data() {
+    DataFiles();
+}
+
 void StartTest::WhatCannotBeReadEndsTheStart() {
+    QFETCH(const QString, name);
     Install(QStringLiteral("a"));
-    QVERIFY(m_folder->MakeFolder(QStringLiteral("a/scales.dat")));
-    const QString path = Path(QStringLiteral("a/scales.dat"));
-    QCOMPARE(
-        Start(Path(QStringLiteral("a/tonvik"))),
-        QStringList{
-            QStringLiteral("message: The file “%1” cannot be read: it is a folder").arg(path)});
-    QVERIFY(m_status != 0);
+    QVERIFY(m_folder->MakeFolder(QStringLiteral("a/") + name));
+    QCOMPARE(FailToStart(),
+             QStringList{QStringLiteral("message: The file “%1” cannot be read: it is a folder")
+                             .arg(Path(QStringLiteral("a/") + name))});
+}
+
+void StartTest::AReportBeforeTheLanguageIsLoaded_data() {
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QString>("why");
+    const QString russian = QStringLiteral("это папка");
+    QTest::newRow("a language file that is there")
+        << QByteArray("[Settings]\r\nLanguage=x.lng\r\n") << QStringLiteral("it is a folder");
+    QTest::newRow("one that is missing")
+        << QByteArray("[Settings]\r\nLanguage=y.lng\r\n") << russian;
+    QTest::newRow("none") << QByteArray() << russian;
+}
+
+void StartTest::AReportBeforeTheLanguageIsLoaded() {
+    QFETCH(const QByteArray, settings);
+    QFETCH(const QString, why);
+    Install(QStringLiteral("a"));
+    QVERIFY(m_folder->Write(QStringLiteral("a/tonvik.ini"), settings));
+    QVERIFY(m_folder->MakeFolder(QStringLiteral("a/chords.dat")));
+    const QStringList said = FailToStart();
+    QCOMPARE(said.size(), 1);
+    QVERIFY2(said.first().endsWith(why), qPrintable(said.first()));
+    QCOMPARE(m_folder->Bytes(QStringLiteral("a/tonvik.ini")), settings);
+}
+
+void StartTest::WhatIsNoFileEndsTheStart_data() {
+    OddFiles();
+}
+
+void StartTest::WhatIsNoFileEndsTheStart() {
+    QFETCH(const QString, kind);
+    QFETCH(const QString, why);
+    Install(QStringLiteral("a"));
+    for (const auto& name : {QStringLiteral("a/chords.dat"), QStringLiteral("a/scales.dat"),
+                             QStringLiteral("a/tunings.dat")}) {
+        QVERIFY(MakeOddFile(kind, Path(name)));
+        const QStringList said = FailToStart();
+        QCOMPARE(said.size(), 1);
+        QVERIFY2(said.first().endsWith(why), qPrintable(said.first()));
+        QVERIFY(QFile::remove(Path(name)));
+    }
+}
+
+void StartTest::WhatIsNoFileIsEmptySettings() {
+    QFETCH(const QString, kind);
+    Install(QStringLiteral("a"));
+    QVERIFY(QFile::remove(Path(QStringLiteral("a/tonvik.ini"))));
+    QVERIFY(MakeOddFile(kind, Path(QStringLiteral("a/tonvik.ini"))));
+    QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{russianTitle});
+}
+
+void StartTest::WhatIsNoFileIsALanguageWithoutTexts() {
+    QFETCH(const QString, kind);
+    Install(QStringLiteral("a"));
+    QVERIFY(QFile::remove(Path(QStringLiteral("a/x.lng"))));
+    QVERIFY(MakeOddFile(kind, Path(QStringLiteral("a/x.lng"))));
+    QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{otherTitle});
+}
+
+void StartTest::AMillionChordTypes() {
+    Install(QStringLiteral("a"));
+    QVERIFY(m_folder->Write(QStringLiteral("a/chords.dat"),
+                            QByteArray("mine\r\nother\r\nm\r\n34\r\n").repeated(1'000'000)));
+    QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{otherTitle});
+}
+
+void StartTest::ArgumentsAreIgnored_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("of nobody") << QStringList{QStringLiteral("--help"), QStringLiteral("song.txt")};
+    QTest::newRow("of the toolkit")
+        << QStringList{QStringLiteral("-platform"), QStringLiteral("none"),
+                       QStringLiteral("-qwindowtitle"), QStringLiteral("mine")};
+}
+
+void StartTest::ArgumentsAreIgnored() {
+    QFETCH(const QStringList, arguments);
+    Install(QStringLiteral("a"));
+    QCOMPARE(Start(Path(QStringLiteral("a/tonvik")), {}, arguments), QStringList{otherTitle});
 }
 
 void StartTest::StartAndStay(QProcess& started) {
@@ -224,7 +342,6 @@ void StartTest::ASecondStart() {
     QProcess first;
     StartAndStay(first);
     QCOMPARE(Start(Path(QStringLiteral("a/tonvik"))), QStringList{otherTitle});
-    QCOMPARE(m_status, 0);
     EndsWell(first);
 }
 

@@ -23,8 +23,10 @@ program_files() {
             -o -path './sounds/*.mid' \) | sort)
 }
 
-# Skips the test where there is no such command.
-needs_command() { command -v "$1" >/dev/null || { echo "No $1 here."; exit 77; }; }
+# What the test asks for is in packaging/packages, so it is here.
+needs_command() {
+    command -v "$1" >/dev/null || { echo "No $1 here: see packaging/packages." >&2; exit 1; }
+}
 
 # install_into PREFIX [OPTION...]
 install_into() { cmake --install "$build_dir" --prefix "$@" >/dev/null; }

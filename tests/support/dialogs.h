@@ -2,6 +2,8 @@
 // window runs.
 #pragma once
 
+#include "watchdog.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>

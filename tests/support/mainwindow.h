@@ -6,6 +6,7 @@
 #include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 #include "support/recordingsound.h"
+#include "support/watchdog.h"
 #include "workbench/frmmain.h"
 
 #include <QTest>
