@@ -7,6 +7,7 @@
 #include "randomuser.h"
 #include "support/recordingsound.h"
 #include "support/testfolder.h"
+#include "workbench/views.h"
 
 #include <QDialog>
 #include <QPixmapCache>
@@ -206,11 +207,12 @@ void RandomUseTest::CheckPictures() {
                  State().Keys().IsMarked(key));
     const auto* neck = Window().panel->picStrings;
     const QImage board = Window().panel->picStrings->grab().toImage();
+    const FretboardLayout layout = LayoutOfFretboard(m_start->State()); // For either hand.
     for (int row = 0; row < stringCount; ++row)
         for (int fret = 1; fret < FretboardLayout::fretColumns; ++fret) {
-            const QPointF centre = FretboardLayout().MarkCentre(row, fret);
+            const QPointF centre = layout.MarkCentre(row, fret);
             const auto barre = State().ShownBarre();
-            const bool barred = barre && FretboardLayout().BarreRect(*barre).contains(centre);
+            const bool barred = barre && layout.BarreRect(*barre).contains(centre);
             QCOMPARE(pixel(board, *neck, centre) == red, State().Row(row).mark == fret || barred);
         }
 }
