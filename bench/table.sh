@@ -28,7 +28,8 @@ start_desktop
 {
     bench/start.sh
     bench/idle.sh
-    "$bench/sound_notes" build/release/tonvik/ | awk '{print $1, /Note/ ? $2 * 1000 : $2}'
+    "$bench/sound_notes" build/release/tonvik/ |
+        awk '{print $1, /^FirstNote|Call/ ? $2 * 1000 : $2}'
     run 1 workbench_bench
     run 2 workbench_bench Paint
     run 4 workbench_bench Paint
@@ -93,8 +94,9 @@ settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|
 help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
 1,000 codes written|1xWriteThousandCodes|ms|50
-first note begun (elapsed)|FirstNote|ms|150
-later notes begun, median (elapsed)|LaterNote|ms|15
-note after a rest begun (elapsed)|NoteAfterARest|ms|150
+note asked for, median / longest of 1,000 / first of a session (elapsed)|Call LongestCall FirstCall|ms|0.1 / 2 / 2
+from a note asked for to its first sample that is heard (samples)|SilentSamples||512
+first note of a session begun, device and sound font opened (elapsed)|FirstNote|ms|200
+memory from 100 notes to 10,000 (kB)|GrowthOverTenThousandNotes||1024
 wake-ups a minute at rest, before / after a first note|WakeUpsBeforeANote WakeUpsAfterANote||0
 ROWS

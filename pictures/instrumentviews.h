@@ -30,7 +30,7 @@ struct FretboardView {
     std::array<bool, stringCount> muted{};
     std::optional<Barre> barre;
     RingsView rings;
-    std::optional<int> soundingRow;
+    std::bitset<stringCount> soundingRows;
     std::optional<BoardPlace> pointed; // Under the pointer...
     QString pointedNote;               // ...and the note that a click would give.
     bool thinStringAtBottom = true;

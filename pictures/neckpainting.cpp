@@ -177,9 +177,9 @@ void PaintMarks(QPainter& painter, const FretboardView& view) {
         painter.drawLine(QPointF(view.layout.FromNut(60), y),
                          QPointF(view.layout.FromNut(FretboardLayout::size.width()), y));
     }
-    if (view.soundingRow)
-        PaintSounding(painter, *view.soundingRow,
-                      StringOfRow(*view.soundingRow, view.thinStringAtBottom));
+    for (int row = 0; row < stringCount; ++row)
+        if (view.soundingRows[static_cast<std::size_t>(row)])
+            PaintSounding(painter, row, StringOfRow(row, view.thinStringAtBottom));
     if (view.barre)
         PaintBarre(painter, view.layout.BarreRect(*view.barre));
     for (int row = 0; row < stringCount; ++row)

@@ -2,12 +2,15 @@
 #include "controls/application.h"
 #include "core/runtimeerror.h"
 #include "program/startup.h"
+#include "sound/leftbehind.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <new>
 
-int main(int argc, char** argv) {
+namespace {
+
+int Run(int argc, char** argv) {
     // The program has no options, and the toolkit's are not for its users either.
     int nameAlone = std::min(argc, 1);
     Application application(nameAlone, argv);
@@ -24,4 +27,14 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const int status = Run(argc, argv);
+    // A thread that hangs in a library must not meet it being cleaned up.
+    if (SoundLeftBehind())
+        std::_Exit(status);
+    return status;
 }

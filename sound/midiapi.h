@@ -1,45 +1,54 @@
-// Playing MIDI files, one at a time, through a synthesiser that comes to life at the first.
+// Playing MIDI files through a synthesiser that comes to life at the first.
 #pragma once
 
+#include "sound/output.h"
 #include "sound/sound.h"
 
-#include <QByteArray>
+#include <QElapsedTimer>
 #include <QTimer>
 
-#include <chrono>
 #include <memory>
+#include <vector>
+
+class SoundThread;
+struct Beginning;
 
 class MidiAPI : public MidiPlayer {
 public:
     // appPath: the program's folder, where a sound font of the user's own may lie.
-    // ringing: how long after a note the device is kept. An open device asks for samples
-    // thousands of times a minute, also for silence, so it is not kept for ever.
-    explicit MidiAPI(QString appPath, std::chrono::milliseconds ringing = std::chrono::seconds(10));
+    explicit MidiAPI(QString appPath);
+
+    // With another device than the machine's, given back so many seconds after a note.
+    MidiAPI(QString appPath, std::unique_ptr<Output> output, double rest = 8);
     ~MidiAPI() override;
 
     void PlayMidiFile(const QString& fileName) override;
     void CloseMidiFile() override;
+    void Strum(const QStringList& files) override;
+    void EndStrum() override;
+    bool Waking() const override;
 
     const QString& CurrentMidiFile() const { return m_currentMidiFile; }
     bool MidiOpen() const { return m_midiOpen; }
     bool HoldsDevice() const;
 
-private:
-    class Synthesiser;
+    // Whether anything waits for a device that is being opened, however long that takes.
+    bool Waiting() const;
 
-    bool Wake();
+private:
+    void Begin(std::vector<Beginning> files);
+    void End(int id);
 
     QString m_appPath;
-    std::unique_ptr<Synthesiser> m_synthesiser;
-    bool m_tried = false; // After a failure to open a device no note tries again.
+    std::unique_ptr<Output> m_output; // Until the thread is started at the first note.
+    double m_rest;
+    std::unique_ptr<SoundThread> m_thread;
     QString m_currentMidiFile;
     bool m_midiOpen = false;
-    QTimer m_ringing;
+    int m_lastId = 0;
+    int m_fileId = 0;
+    int m_strumId = 0;
+    QTimer m_strumming;
+    QElapsedTimer m_asked;     // Since a note was to begin, the one before having begun...
+    bool m_neverBegan = false; // ...which it had not.
 };
-
-// The bytes of a MIDI file; empty for one that is missing, cut off, no MIDI file or too large
-// to be a note's.
-QByteArray ReadMidiFile(const QString& fileName);
-
-// The sound font to play with: one beside the program, else the desktop's; empty for none.
-QString FindSoundFont(const QString& appPath);

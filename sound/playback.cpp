@@ -27,40 +27,53 @@ std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom) {
     return rows;
 }
 
-// The steps of one loop. Each is counted from the step before, not from when the last wait
-// came back, so that small delays do not add up.
+// The notes of one loop, each for its whole pause from when it begins to sound: what is late
+// makes the loop later and no note shorter.
 class Playback::Beat {
 public:
-    Beat(Playback& playback, bool fast)
-        : m_playback(playback), m_pause(fast ? 0.5 : 1.0), m_step(playback.m_clock.Now()) {}
+    Beat(Playback& playback, bool fast) : m_playback(playback), m_pause(fast ? 0.5 : 1.0) {}
 
     void Play(const QString& file) {
         m_sounded = true;
         m_playback.m_midi.PlayMidiFile(file);
+        AwaitSound();
         Wait();
         m_playback.m_midi.CloseMidiFile();
     }
 
-    void Wait() {
-        const double now = m_playback.m_clock.Now();
-        if (now - m_step > m_pause)
-            m_step = now; // A nested loop played meanwhile.
-        m_step += m_pause;
-        m_playback.m_clock.WaitUntil(m_step);
-    }
+    void Wait() { m_playback.m_clock.WaitUntil(m_playback.m_clock.Now() + m_pause); }
 
     // Whether anything sounded since the last call.
     bool Sounded() { return std::exchange(m_sounded, false); }
 
 private:
+    // A device asks for samples every few thousandths of a second; one that is not open yet
+    // may take longer than anybody wants to wait for it.
+    void AwaitSound() {
+        constexpr double step = 0.002;
+        constexpr double longest = 0.2;
+        const double last = m_playback.m_clock.Now() + longest;
+        while (m_playback.m_midi.Waking() && m_playback.m_clock.Now() < last &&
+               !m_playback.m_abandoned)
+            m_playback.m_clock.WaitUntil(m_playback.m_clock.Now() + step);
+    }
+
     Playback& m_playback;
     double m_pause;
-    double m_step;
     bool m_sounded = false;
 };
 
 Playback::Playback(AppState& state, MidiPlayer& midi, Clock& clock, PlaybackSource source)
-    : m_state(state), m_midi(midi), m_clock(clock), m_source(std::move(source)) {}
+    : m_state(state), m_midi(midi), m_clock(clock), m_source(std::move(source)) {
+    m_midi.SetStrumEnded([this] {
+        m_strummedRows.reset();
+        Show();
+    });
+}
+
+Playback::~Playback() {
+    m_midi.SetStrumEnded({});
+}
 
 void Playback::PlayKeys(bool fast) {
     Repeat(fast, [this](Beat& beat) {
@@ -80,42 +93,90 @@ void Playback::PlayStrings(bool fast) {
             if (!sound.enabled || m_abandoned)
                 continue;
             ShowSounding(std::nullopt, row);
-            beat.Play(StringSoundFile(m_state.AppPath, sound.soundNumber,
-                                      SoundingFret(sound, m_source.barreFret())));
+            beat.Play(FileOfRow(sound));
         }
     });
 }
 
+void Playback::Strum() {
+    QStringList files;
+    std::bitset<stringCount> rows;
+    for (const int row : RowsFromThickToThin(m_state.ThinStringAtBottom)) {
+        const RowSound sound = m_source.row(row);
+        if (!sound.enabled)
+            continue;
+        files += FileOfRow(sound);
+        rows.set(static_cast<std::size_t>(row));
+    }
+    m_midi.Strum(files);
+    m_strummedRows = rows;
+    Show();
+}
+
+QString Playback::FileOfRow(const RowSound& sound) const {
+    return StringSoundFile(m_state.AppPath, sound.soundNumber,
+                           SoundingFret(sound, m_source.barreFret()));
+}
+
 void Playback::Repeat(bool fast, const std::function<void(Beat&)>& pass) {
+    constexpr int deepest = 256;
+    if (m_depth == deepest || m_abandoned)
+        return;
+    ++m_depth;
     m_state.IsPlaying = true;
-    const auto silence = qScopeGuard([this] { ShowSounding(std::nullopt, std::nullopt); });
-    auto failed = qScopeGuard([this] { m_state.IsPlaying = false; });
+    const auto silence = qScopeGuard([this] {
+        --m_depth;
+        ShowSounding(std::nullopt, std::nullopt);
+    });
+    auto failed = qScopeGuard([this] { EndLoops(); });
+    const int ends = m_ends;
     Beat beat(*this, fast);
     do {
         pass(beat);
         if (m_abandoned)
             return;
+        // A loop that was ended stays so, also where another was begun meanwhile.
+        if (m_ends != ends)
+            break;
         if (!m_source.repeats())
-            m_state.IsPlaying = false;
-        else if (!beat.Sounded() && m_state.IsPlaying)
+            EndLoops();
+        else if (!beat.Sounded())
             beat.Wait(); // An empty loop costs nothing and can be stopped.
-    } while (m_state.IsPlaying && !m_abandoned);
+    } while (m_ends == ends && !m_abandoned);
     failed.dismiss();
 }
 
-void Playback::Stop() {
+void Playback::EndLoops() {
     m_state.IsPlaying = false;
+    ++m_ends;
+}
+
+void Playback::Stop() {
+    EndLoops();
+    m_midi.EndStrum();
 }
 
 void Playback::Abandon() {
     m_abandoned = true;
-    m_state.IsPlaying = false;
+    EndLoops();
     m_midi.CloseMidiFile();
+    m_midi.EndStrum();
+}
+
+std::bitset<stringCount> Playback::SoundingRows() const {
+    std::bitset<stringCount> rows = m_strummedRows;
+    if (m_soundingRow)
+        rows.set(static_cast<std::size_t>(*m_soundingRow));
+    return rows;
 }
 
 void Playback::ShowSounding(std::optional<int> key, std::optional<int> row) {
     m_soundingKey = key;
     m_soundingRow = row;
+    Show();
+}
+
+void Playback::Show() const {
     if (m_show && !m_abandoned)
         m_show();
 }

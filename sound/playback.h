@@ -4,6 +4,7 @@
 #include "core/mdlmain.h"
 #include "sound/sound.h"
 
+#include <bitset>
 #include <functional>
 #include <optional>
 
@@ -36,29 +37,40 @@ std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom);
 class Playback {
 public:
     Playback(AppState& state, MidiPlayer& midi, Clock& clock, PlaybackSource source);
+    ~Playback();
+    Playback(const Playback&) = delete;
+    Playback& operator=(const Playback&) = delete;
 
     // Called whenever another key or string begins or ends to sound.
     void SetShow(std::function<void()> show) { m_show = std::move(show); }
 
     // Half a second a note when fast, else a second. Returns when the loop has ended; events
-    // are processed meanwhile, so a second call runs nested in the first.
+    // are processed meanwhile, so a second call runs nested in the first. A call nested deeper
+    // than the stack bears does nothing.
     void PlayKeys(bool fast);
     void PlayStrings(bool fast);
 
-    // Lets every running loop finish its pass.
+    // All strings that are not muted, from the sixth to the first, as one. Returns at once,
+    // and leaves running loops alone.
+    void Strum();
+
+    // Lets every running loop finish its pass, and a strum die away.
     void Stop();
 
     // Ends every loop without another note: the window is closing.
     void Abandon();
 
     std::optional<int> SoundingKey() const { return m_soundingKey; }
-    std::optional<int> SoundingRow() const { return m_soundingRow; }
+    std::bitset<stringCount> SoundingRows() const;
 
 private:
     class Beat;
 
     void Repeat(bool fast, const std::function<void(Beat&)>& pass);
+    void EndLoops();
+    QString FileOfRow(const RowSound& sound) const;
     void ShowSounding(std::optional<int> key, std::optional<int> row);
+    void Show() const;
 
     AppState& m_state;
     MidiPlayer& m_midi;
@@ -67,5 +79,8 @@ private:
     std::function<void()> m_show;
     std::optional<int> m_soundingKey;
     std::optional<int> m_soundingRow;
+    std::bitset<stringCount> m_strummedRows;
+    int m_ends = 0;  // How often all loops were ended.
+    int m_depth = 0; // How many loops run, each nested in the one before.
     bool m_abandoned = false;
 };

@@ -1,19 +1,43 @@
-// What playback needs of the world: something that plays a file, and a clock to wait by.
+// What playback needs of the world: something that plays files, and a clock to wait by.
 // Tests put a recorder and a clock moved by hand in their places.
 #pragma once
 
-#include <QString>
+#include <QStringList>
+
+#include <functional>
 
 class MidiPlayer {
 public:
     virtual ~MidiPlayer() = default;
 
-    // Closes what is open and plays the file from its start. A file that is missing or
-    // broken, or a machine without sound, is silence.
+    // Closes what is open, also a strum, and plays the file from its start. A file that is
+    // missing or broken, or a machine without sound, is silence. Nothing is waited for.
     virtual void PlayMidiFile(const QString& fileName) = 0;
 
-    // Ends the note that sounds, letting it die away.
+    // Ends the file that PlayMidiFile began, letting it die away.
     virtual void CloseMidiFile() = 0;
+
+    // Closes what is open and plays the files 30 ms apart; four seconds after the last has
+    // begun, the strum ends by itself. A file that is missing or broken is silent.
+    virtual void Strum(const QStringList& files) = 0;
+
+    // Lets a strum die away before its time.
+    virtual void EndStrum() = 0;
+
+    // Whether what was asked for has not begun to sound, though it soon may.
+    virtual bool Waking() const { return false; }
+
+    // Called when a strum has ended, for whichever reason.
+    void SetStrumEnded(std::function<void()> ended) { m_strumEnded = std::move(ended); }
+
+protected:
+    void StrumEnded() const {
+        if (m_strumEnded)
+            m_strumEnded();
+    }
+
+private:
+    std::function<void()> m_strumEnded;
 };
 
 class Clock {

@@ -66,7 +66,7 @@ void frmMain::ShowRows() {
 
 void frmMain::ShowInstruments() {
     FretboardView board = ViewOfFretboard(m_workbench, m_state);
-    board.soundingRow = m_playback.SoundingRow();
+    board.soundingRows = m_playback.SoundingRows();
     // A press there would take hold of the barre, should it have come there meanwhile.
     if (m_pointed && !IsOnBarre(board.layout.MarkCentre(m_pointed->row, m_pointed->fret).x())) {
         board.pointed = m_pointed;

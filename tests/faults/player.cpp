@@ -1,20 +1,38 @@
-// player FOLDER FILE [NOTES | rests]: plays a file a few times as the program does; says after
-// each start whether it sounds. With "rests" the notes are far apart, and it also says whether
-// the device is kept between.
-#include "sound/fluidsynth.h"
+// player FOLDER FILE HOW: plays a file a few times as the program does; says each time whether
+// it sounds. HOW is a number of notes; "rests" for notes far apart, where it also says whether
+// the device is kept between; "asks" for notes that nobody waits
+// for, the second one behind the end of the input.
+#include "sound/device.h"
+#include "sound/leftbehind.h"
 #include "sound/midiapi.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 #include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <thread>
 
 namespace {
 
+// Until the sound room's thread has come so far.
+void Until(const std::function<bool()>& done) {
+    while (!done()) {
+        QCoreApplication::processEvents();
+        std::this_thread::yield();
+    }
+}
+
+void Play(MidiAPI& midi, const QString& file) {
+    midi.PlayMidiFile(file);
+    Until([&midi] { return !midi.Waiting(); });
+    std::puts(midi.MidiOpen() && midi.HoldsDevice() ? "sounds" : "silent");
+}
+
 void PlayInTurn(MidiAPI& midi, const QString& file, int notes) {
     for (int note = 0; note < notes; ++note) {
-        midi.PlayMidiFile(file);
-        std::puts(midi.MidiOpen() ? "sounds" : "silent");
+        Play(midi, file);
         if (note % 2 == 0) // Otherwise the next note ends it.
             midi.CloseMidiFile();
     }
@@ -22,17 +40,21 @@ void PlayInTurn(MidiAPI& midi, const QString& file, int notes) {
 
 void PlayWithRests(MidiAPI& midi, const QString& file) {
     for (int note = 0; note < 3; ++note) {
-        midi.PlayMidiFile(file);
-        QCoreApplication::processEvents();
-        std::puts(midi.MidiOpen() && midi.HoldsDevice() ? "sounds" : "silent");
-        midi.CloseMidiFile();
-        QCoreApplication::processEvents();
-        std::puts(midi.HoldsDevice() ? "kept" : "let go");
-        midi.PlayMidiFile(file);
+        Play(midi, file);
         midi.PlayMidiFile(file + QStringLiteral(".gone")); // The last note has no file.
         midi.CloseMidiFile();
-        QCoreApplication::processEvents();
-        std::puts(midi.HoldsDevice() ? "kept" : "let go");
+        Until([&midi] { return !midi.HoldsDevice(); });
+        std::puts("let go");
+    }
+}
+
+void Ask(MidiAPI& midi, const QString& file) {
+    midi.PlayMidiFile(file);
+    while (std::getchar() != EOF) {
+    }
+    for (int note = 0; note < 20; ++note) {
+        midi.PlayMidiFile(file);
+        std::puts(midi.HoldsDevice() ? "sounds" : "silent");
     }
 }
 
@@ -40,15 +62,22 @@ void PlayWithRests(MidiAPI& midi, const QString& file) {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    if (argc < 3)
+    if (argc != 4)
         return 2;
     const QString file = QFile::decodeName(argv[2]);
-    const QByteArray how(argc > 3 ? argv[3] : "20");
-    const bool rests = how == "rests";
-    MidiAPI midi(QFile::decodeName(argv[1]), std::chrono::seconds(rests ? 0 : 10));
-    if (rests)
-        PlayWithRests(midi, file);
-    else
-        PlayInTurn(midi, file, how.toInt());
-    std::puts(LoadFluidSynth() != nullptr ? "library" : "no library");
+    const QByteArray how(argv[3]);
+    {
+        MidiAPI midi(QFile::decodeName(argv[1]), std::make_unique<Device>(),
+                     how == "rests" ? 0 : 8);
+        if (how == "rests")
+            PlayWithRests(midi, file);
+        else if (how == "asks")
+            Ask(midi, file);
+        else
+            PlayInTurn(midi, file, how.toInt());
+    }
+    std::puts(SoundLeftBehind() ? "left behind" : "ended");
+    std::fflush(stdout);
+    if (SoundLeftBehind())
+        std::_Exit(EXIT_SUCCESS);
 }

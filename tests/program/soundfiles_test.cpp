@@ -1,54 +1,15 @@
 // Every sound file of the program, rendered without a device, and its pitch measured.
 #include "program/soundfile.h"
-#include "sound/fluidsynth.h"
-#include "sound/midiapi.h"
+#include "sound/soundfont.h"
+#include "tests/sound/recording.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
 #include <numbers>
 
 namespace {
-
-constexpr double sampleRate = 44100;
-
-// A synthesiser with the program's sound font and no device.
-class Renderer {
-public:
-    Renderer() : m_fluid(*LoadFluidSynth()), m_settings(m_fluid.new_fluid_settings()) {
-        m_fluid.fluid_settings_setint(m_settings, "synth.reverb.active", 0);
-        m_fluid.fluid_settings_setint(m_settings, "synth.chorus.active", 0);
-        m_synth = m_fluid.new_fluid_synth(m_settings);
-        const QByteArray font = QFile::encodeName(FindSoundFont(QString()));
-        m_fluid.fluid_synth_sfload(m_synth, font.constData(), 1);
-    }
-    ~Renderer() {
-        m_fluid.delete_fluid_synth(m_synth);
-        m_fluid.delete_fluid_settings(m_settings);
-    }
-    Renderer(const Renderer&) = delete;
-    Renderer& operator=(const Renderer&) = delete;
-
-    std::vector<float> Render(const QByteArray& midi, double seconds) {
-        fluid_player_t* player = m_fluid.new_fluid_player(m_synth);
-        m_fluid.fluid_player_add_mem(player, midi.constData(), static_cast<size_t>(midi.size()));
-        m_fluid.fluid_player_play(player);
-        std::vector<float> left(static_cast<std::size_t>(seconds * sampleRate));
-        std::vector<float> right(left.size());
-        m_fluid.fluid_synth_write_float(m_synth, static_cast<int>(left.size()), left.data(), 0, 1,
-                                        right.data(), 0, 1);
-        m_fluid.fluid_player_stop(player);
-        m_fluid.delete_fluid_player(player);
-        return left; // The font's left and right recordings may be a few cents apart.
-    }
-
-private:
-    const FluidSynthLibrary& m_fluid;
-    fluid_settings_t* m_settings;
-    fluid_synth_t* m_synth = nullptr;
-};
 
 double Loudness(const std::vector<float>& samples, double from, double to) {
     double sum = 0;
@@ -93,9 +54,6 @@ private Q_SLOTS:
     void Notes();
     void Pitches_data();
     void Pitches();
-    void BadFilesAreSilent_data();
-    void BadFilesAreSilent();
-    void WithoutAFontNothingSounds();
 };
 
 void SoundFilesTest::EveryFileIsThere() {
@@ -148,10 +106,12 @@ void SoundFilesTest::Pitches_data() {
 void SoundFilesTest::Pitches() {
     QFETCH(const QString, file);
     QFETCH(const int, note);
-    if (LoadFluidSynth() == nullptr || FindSoundFont(QString()).isEmpty())
-        QSKIP("the synthesiser or its sound font is not installed");
-    Renderer renderer;
-    const auto samples = renderer.Render(Bytes(QStringLiteral(SOUND_FOLDER "/") + file), 1.2);
+    if (FindSoundFont(QString()).isEmpty())
+        QSKIP("There is no sound font.");
+    Recording recording(QStringLiteral(SOUND_FOLDER "/../"));
+    recording.Midi().PlayMidiFile(QStringLiteral(SOUND_FOLDER "/") + file);
+    recording.WaitUntil(1.2);
+    const Samples& samples = recording.Heard();
     QVERIFY(Loudness(samples, 0.1, 0.4) > 0.001);
     const double asked = 440 * std::exp2((note - 69) / 12.0);
     // The strongest frequency within a quarter tone.
@@ -178,48 +138,6 @@ void SoundFilesTest::Pitches() {
         }
     }
     QVERIFY2(std::abs(best) <= 5, qPrintable(QString::number(best)));
-}
-
-void SoundFilesTest::BadFilesAreSilent_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("no MIDI file") << QByteArray("RIFF....");
-    QTest::newRow("cut off") << QByteArray("MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\xFF\0\0\x90", 24);
-    // Such a chunk leads back to where it begins; the synthesiser would follow it for ever.
-    QTest::newRow("a chunk that ends before it begins")
-        << QByteArray("MThd\0\0\0\6\0\0\0\1\0\x60\0\0\0\0\xFF\xFF\xFF\xF8", 22) +
-               QByteArray(30, '\0');
-    QTest::newRow("too large") << QByteArray("MThd") + QByteArray(2 << 20, 'x');
-}
-
-void SoundFilesTest::BadFilesAreSilent() {
-    QFETCH(const QByteArray, bytes);
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("0.mid"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    QCOMPARE(ReadMidiFile(path), QByteArray());
-    QCOMPARE(ReadMidiFile(folder.path()), QByteArray());
-    MidiAPI midi(folder.path() + u'/');
-    midi.PlayMidiFile(path);
-    QVERIFY(!midi.MidiOpen());
-    QCOMPARE(midi.CurrentMidiFile(), path);
-    midi.CloseMidiFile();
-    QVERIFY(!midi.MidiOpen());
-}
-
-void SoundFilesTest::WithoutAFontNothingSounds() {
-    QTemporaryDir folder;
-    QFile font(folder.filePath(QStringLiteral("broken.sf2"))); // Preferred to the system's.
-    QVERIFY(font.open(QIODevice::WriteOnly));
-    font.write("no font");
-    font.close();
-    QCOMPARE(FindSoundFont(folder.path() + u'/'), font.fileName());
-    MidiAPI midi(folder.path() + u'/');
-    midi.PlayMidiFile(QStringLiteral(SOUND_FOLDER "/keys/0.mid"));
-    QVERIFY(!midi.MidiOpen());
 }
 
 QTEST_GUILESS_MAIN(SoundFilesTest)

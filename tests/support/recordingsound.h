@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 class HandClock : public Clock {
 public:
@@ -28,14 +29,31 @@ public:
     explicit RecordingPlayer(const HandClock& clock) : m_clock(clock) {}
 
     void PlayMidiFile(const QString& fileName) override {
+        EndStrum();
         played += QDir::fromNativeSeparators(fileName).section(QStringLiteral("sounds/"), 1);
         times += m_clock.now;
     }
     void CloseMidiFile() override { ++closed; }
+    void Strum(const QStringList& files) override {
+        EndStrum();
+        strummed.clear();
+        for (const QString& file : files)
+            strummed += QDir::fromNativeSeparators(file).section(QStringLiteral("sounds/"), 1);
+        strumming = true;
+    }
+    void EndStrum() override {
+        if (std::exchange(strumming, false))
+            StrumEnded();
+    }
+
+    bool Waking() const override { return m_clock.now < sounding; }
 
     QStringList played;
     QList<double> times;
     int closed = 0;
+    QStringList strummed; // By the last strum.
+    bool strumming = false;
+    double sounding = 0; // From when on notes begin to sound.
 
 private:
     const HandClock& m_clock;
