@@ -26,8 +26,9 @@ bool Device::Open(Render render) {
         return false;
     m_render = std::move(render);
     m_settings = library->new_fluid_settings();
-    library->fluid_settings_setint(m_settings, "audio.period-size", 256);
-    library->fluid_settings_setint(m_settings, "audio.periods", 4);
+    // Some 25 ms at a time: below, a busy machine is late and the sound has gaps.
+    library->fluid_settings_setint(m_settings, "audio.period-size", 1024);
+    library->fluid_settings_setint(m_settings, "audio.periods", 2);
     library->fluid_settings_setint(m_settings, "audio.realtime-prio", 0);
     m_asked = Clock::now();
     for (const char* driver : drivers) {

@@ -29,8 +29,12 @@ void MidiAPI::PlayMidiFile(const QString& fileName) {
 }
 
 void MidiAPI::CloseMidiFile() {
+    CloseWhenSounded(0);
+}
+
+void MidiAPI::CloseWhenSounded(double seconds) {
     if (std::exchange(m_midiOpen, false))
-        End(m_fileId);
+        End(m_fileId, seconds);
 }
 
 void MidiAPI::Strum(const QStringList& files) {
@@ -65,7 +69,7 @@ void MidiAPI::EndStrum() {
 // A server that has not answered for so long hardly will, so later notes do not wait for it.
 bool MidiAPI::Waking() const {
     constexpr qint64 milliseconds = 200;
-    return Waiting() && m_asked.elapsed() < milliseconds;
+    return Waiting() && !HoldsDevice() && m_asked.elapsed() < milliseconds;
 }
 
 bool MidiAPI::Waiting() const {
@@ -84,8 +88,8 @@ void MidiAPI::Begin(std::vector<Beginning> files) {
     m_thread->Begin(std::move(files));
 }
 
-void MidiAPI::End(int id) {
+void MidiAPI::End(int id, double atLeast) {
     m_neverBegan = Waiting();
     if (m_thread)
-        m_thread->End(id);
+        m_thread->End({id, atLeast});
 }

@@ -24,6 +24,7 @@ public:
 
     void PlayMidiFile(const QString& fileName) override;
     void CloseMidiFile() override;
+    void CloseWhenSounded(double seconds) override;
     void Strum(const QStringList& files) override;
     void EndStrum() override;
     bool Waking() const override;
@@ -37,7 +38,7 @@ public:
 
 private:
     void Begin(std::vector<Beginning> files);
-    void End(int id);
+    void End(int id, double atLeast = 0);
 
     QString m_appPath;
     std::unique_ptr<Output> m_output; // Until the thread is started at the first note.

@@ -28,7 +28,7 @@ std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom) {
 }
 
 // The notes of one loop, each for its whole pause from when it begins to sound: what is late
-// makes the loop later and no note shorter.
+// is never made up for.
 class Playback::Beat {
 public:
     Beat(Playback& playback, bool fast) : m_playback(playback), m_pause(fast ? 0.5 : 1.0) {}
@@ -38,7 +38,7 @@ public:
         m_playback.m_midi.PlayMidiFile(file);
         AwaitSound();
         Wait();
-        m_playback.m_midi.CloseMidiFile();
+        m_playback.m_midi.CloseWhenSounded(m_pause);
     }
 
     void Wait() { m_playback.m_clock.WaitUntil(m_playback.m_clock.Now() + m_pause); }
@@ -47,8 +47,7 @@ public:
     bool Sounded() { return std::exchange(m_sounded, false); }
 
 private:
-    // A device asks for samples every few thousandths of a second; one that is not open yet
-    // may take longer than anybody wants to wait for it.
+    // Opening a device may take longer than anybody wants to wait for it.
     void AwaitSound() {
         constexpr double step = 0.002;
         constexpr double longest = 0.2;

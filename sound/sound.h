@@ -17,6 +17,9 @@ public:
     // Ends the file that PlayMidiFile began, letting it die away.
     virtual void CloseMidiFile() = 0;
 
+    // The same, but not before it has sounded for so many seconds, should it have begun late.
+    virtual void CloseWhenSounded([[maybe_unused]] double seconds) { CloseMidiFile(); }
+
     // Closes what is open and plays the files 30 ms apart; four seconds after the last has
     // begun, the strum ends by itself. A file that is missing or broken is silent.
     virtual void Strum(const QStringList& files) = 0;
@@ -24,7 +27,7 @@ public:
     // Lets a strum die away before its time.
     virtual void EndStrum() = 0;
 
-    // Whether what was asked for has not begun to sound, though it soon may.
+    // Whether what was asked for waits for a device that is being opened.
     virtual bool Waking() const { return false; }
 
     // Called when a strum has ended, for whichever reason.

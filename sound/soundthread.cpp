@@ -29,12 +29,12 @@ public:
         m_changed.notify_all();
     }
 
-    void End(int id) {
+    void End(Ending files) {
         const std::scoped_lock lock(m_mutex);
         const auto waited =
-            std::erase_if(m_begun, [id](const Beginning& file) { return file.id == id; });
+            std::erase_if(m_begun, [=](const Beginning& file) { return file.id == files.id; });
         if (waited == 0 && m_open)
-            m_ended.push_back(id);
+            m_ended.push_back(files);
     }
 
     bool Waiting() const {
@@ -62,12 +62,12 @@ public:
         m_changed.notify_all();
     }
 
-    // Whether the thread came to its end within a tenth of a second.
+    // Whether the thread came to its end within a twentieth of a second.
     bool Finish() {
         std::unique_lock lock(m_mutex);
         m_ending = true;
         m_changed.notify_all();
-        return m_changed.wait_for(lock, 100ms, [this] { return m_finished; });
+        return m_changed.wait_for(lock, 50ms, [this] { return m_finished; });
     }
 
 private:
@@ -119,8 +119,8 @@ private:
 
     void TakeRequests() {
         m_open = true; // Even before Open has returned: what began now can be ended.
-        for (const int id : m_ended)
-            m_synthesiser->End(id);
+        for (const Ending& files : m_ended)
+            m_synthesiser->End(files);
         for (const Beginning& file : m_begun)
             m_synthesiser->Begin(file);
         m_ended.clear();
@@ -136,7 +136,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<Beginning> m_begun; // For the device's thread to take...
-    std::vector<int> m_ended;       // ...and these.
+    std::vector<Ending> m_ended;    // ...and these.
     bool m_open = false;
     bool m_ending = false;
     bool m_finished = false;
@@ -159,8 +159,8 @@ void SoundThread::Begin(std::vector<Beginning> files) {
     m_room->Begin(std::move(files));
 }
 
-void SoundThread::End(int id) {
-    m_room->End(id);
+void SoundThread::End(Ending files) {
+    m_room->End(files);
 }
 
 bool SoundThread::Waiting() const {

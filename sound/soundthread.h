@@ -29,8 +29,8 @@ public:
     // Plays the files as soon as the device asks for samples. Without a device they are dropped.
     void Begin(std::vector<Beginning> files);
 
-    // Lets the files of this id die away; those that have not begun never do.
-    void End(int id);
+    // Lets the files of an id die away; those that have not begun never do.
+    void End(Ending files);
 
     // Whether files wait for a device to ask for samples.
     bool Waiting() const;

@@ -76,10 +76,10 @@ void Synthesiser::Begin(const Beginning& file) {
         {file.id, file.score, 0, begin, begin + file.length * m_sampleRate, set});
 }
 
-void Synthesiser::End(int id) {
+void Synthesiser::End(Ending files) {
     for (Performance& performance : m_performances)
-        if (performance.id == id)
-            performance.end = m_now;
+        if (performance.id == files.id)
+            performance.end = std::max(m_now, performance.begin + files.atLeast * m_sampleRate);
 }
 
 void Synthesiser::Silence() {

@@ -18,6 +18,12 @@ struct Beginning {
     double length; // Seconds; infinite while nobody knows.
 };
 
+// The end of the files of an id, where they have sounded for so many seconds at least.
+struct Ending {
+    int id;
+    double atLeast;
+};
+
 // Used by one thread at a time.
 class Synthesiser {
 public:
@@ -33,7 +39,7 @@ public:
     void Begin(const Beginning& file);
 
     // Lets the notes of these files die away; an id that is none any more does nothing.
-    void End(int id);
+    void End(Ending files);
 
     // Ends everything at once: the next samples are heard at another time.
     void Silence();

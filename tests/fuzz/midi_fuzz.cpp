@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     constexpr double forEver = std::numeric_limits<double>::infinity();
     synthesiser->Begin({1, std::make_shared<const Score>(score), 0, forEver});
     synthesiser->Render(left.data(), right.data(), static_cast<int>(left.size()));
-    synthesiser->End(1);
+    synthesiser->End({1, 0});
     synthesiser->Render(left.data(), right.data(), 64);
     Require(synthesiser->Resting() >= 0, "a file that was ended plays no more");
     return 0;

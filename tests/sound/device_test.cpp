@@ -6,7 +6,27 @@
 #include <QStandardPaths>
 #include <QTest>
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
+
+namespace {
+
+// A busy machine is late with its samples; the server plays nothing meanwhile, and then goes on.
+std::vector<float> WithoutGaps(const std::vector<float>& samples) {
+    constexpr std::ptrdiff_t shortest = 16;
+    std::vector<float> joined;
+    for (auto next = samples.begin(); next != samples.end();) {
+        const auto sounding = std::find_if(next, samples.end(), [](float s) { return s != 0; });
+        const bool gap = sounding - next >= shortest;
+        const auto end = std::find(sounding, samples.end(), 0.0F);
+        joined.insert(joined.end(), gap ? sounding : next, end);
+        next = end;
+    }
+    return joined;
+}
+
+} // namespace
 
 class DeviceTest : public QObject {
     Q_OBJECT
@@ -17,7 +37,10 @@ private Q_SLOTS:
     void CIsHeardOnStringsAndKeys();
 
 private:
+    QString Heard();
+    void PlayTheProgram();
     void Play(QProcess& program, const QString& key);
+    static void WaitFor(const std::function<bool()>& done);
 
     TestFolder m_folder; // The server's.
     QProcessEnvironment m_environment;
@@ -39,13 +62,13 @@ void DeviceTest::initTestCase() {
     m_environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(PLUGINS));
     m_environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("musician"));
     m_server.setProcessEnvironment(m_environment);
-    m_server.start(QStringLiteral("pulseaudio"),
-                   {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                    QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
-                    QStringLiteral("--disable-shm=yes"), QStringLiteral("--log-level=error"),
-                    QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") +
-                        socket,
-                    QStringLiteral("--load=module-null-sink sink_name=ear rate=44100")});
+    m_server.start(
+        QStringLiteral("pulseaudio"),
+        {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+         QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--use-pid-file=no"),
+         QStringLiteral("--disable-shm=yes"), QStringLiteral("--log-level=error"),
+         QStringLiteral("--load=module-native-protocol-unix auth-anonymous=1 socket=") + socket,
+         QStringLiteral("--load=module-null-sink sink_name=ear rate=44100")});
     const auto answers = [this] {
         QProcess asking;
         asking.setProcessEnvironment(m_environment);
@@ -68,32 +91,61 @@ void DeviceTest::Play(QProcess& program, const QString& key) {
     while (!program.readAll().contains(key.toUtf8()));
 }
 
+// What a busy machine loses in recording is heard again.
 void DeviceTest::CIsHeardOnStringsAndKeys() {
+    const QString asked = QStringLiteral("48 52 55 40 48 52 55 60 64");
+    QString heard = Heard();
+    for (int again = 0; again < 3 && heard != asked && !QTest::currentTestFailed(); ++again) {
+        qInfo("heard: %s", qPrintable(heard));
+        heard = Heard();
+    }
+    QCOMPARE(heard, asked);
+}
+
+// The pitches that the program plays in turn. What seems to begin again is where a gap was.
+QString DeviceTest::Heard() {
     QProcess ear;
+    const QString record = m_folder.Path(QStringLiteral("record"));
+    const auto recorded = [&record] { return QFileInfo(record).size(); };
     ear.setProcessEnvironment(m_environment);
+    ear.setStandardOutputFile(record);
     ear.start(QStringLiteral("parec"),
               {QStringLiteral("--device=ear.monitor"), QStringLiteral("--format=float32le"),
                QStringLiteral("--rate=44100"), QStringLiteral("--channels=1"),
-               QStringLiteral("--channel-map=front-left"), QStringLiteral("--raw")});
-    QVERIFY(ear.waitForReadyRead());
+               QStringLiteral("--channel-map=front-left"), QStringLiteral("--latency-msec=200"),
+               QStringLiteral("--raw")});
+    WaitFor([&] { return recorded() > 0; });
+    PlayTheProgram();
+    const qint64 atTheEnd = recorded();
+    constexpr qint64 second = 44100 * sizeof(float);
+    WaitFor([&] { return recorded() > atTheEnd + second / 2; }); // What was under way.
+    ear.terminate();
+    ear.waitForFinished();
+    const QByteArray bytes = m_folder.Bytes(QStringLiteral("record"));
+    std::vector<float> samples(static_cast<std::size_t>(bytes.size()) / sizeof(float));
+    std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
+    QStringList heard;
+    for (const HeardNote& note : Listen(WithoutGaps(samples)))
+        if (const QString pitch = QString::number(std::lround(note.pitch));
+            note.pitch > 0 && (heard.isEmpty() || heard.last() != pitch))
+            heard += pitch;
+    return heard.join(u' ');
+}
+
+void DeviceTest::PlayTheProgram() {
     QProcess program;
     program.setProcessEnvironment(m_environment);
     program.start(QStringLiteral(PROGRAM), QStringList());
-    Play(program, QStringLiteral("F6"));
     Play(program, QStringLiteral("F5"));
+    Play(program, QStringLiteral("F6"));
     program.write("close\n");
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
-    ear.terminate();
-    ear.waitForFinished();
-    const QByteArray bytes = ear.readAllStandardOutput();
-    std::vector<float> samples(static_cast<std::size_t>(bytes.size()) / sizeof(float));
-    std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
-    QStringList heard;
-    for (const HeardNote& note : Listen(samples))
-        heard += QString::number(std::lround(note.pitch));
-    QCOMPARE(heard.join(u' '), QStringLiteral("40 48 52 55 60 64 48 52 55"));
+}
+
+void DeviceTest::WaitFor(const std::function<bool()>& done) {
+    QTRY_VERIFY_WITH_TIMEOUT(done(), 20'000);
 }
 
 QTEST_GUILESS_MAIN(DeviceTest)
