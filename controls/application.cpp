@@ -3,6 +3,7 @@
 #include "controls/accessiblepicture.h"
 #include "controls/focusring.h"
 #include "controls/messagebox.h"
+#include "controls/scrollmenu.h"
 #include "controls/theme.h"
 #include "core/runtimeerror.h"
 
@@ -30,6 +31,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     ApplyTheme();
     InstallAccessiblePictures();
     FocusRing::Install();
+    InstallScrollMenus();
     setQuitOnLastWindowClosed(false);
 }
 

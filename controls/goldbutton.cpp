@@ -215,10 +215,10 @@ void GoldButton::focusOutEvent(QFocusEvent* event) {
 }
 
 void GoldButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // Held down, it is one press.
+        click();
 }
 
 void GoldButton::changeEvent(QEvent* event) {

@@ -212,6 +212,10 @@ void Paint(QPainter& painter, Icon icon) {
     case Icon::PlayStrings:
         PaintStrings(painter, {2, 6, 12, 12});
         return PaintTriangle(painter, {22.5, 12}, 6.5);
+    case Icon::Strum:
+        PaintStrings(painter, {2, 6, 12, 12});
+        PaintArrow(painter, {8, 2.5}, {8, 21.5});
+        return PaintTriangle(painter, {22.5, 12}, 6.5);
     case Icon::Rings:
         PaintStrings(painter, {2, 6, 20, 12});
         Fill(painter);

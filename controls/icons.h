@@ -9,6 +9,7 @@ enum class Icon {
     PlayKeys,
     PlayStrings,
     Rings,
+    Strum,
     LayFingers,
     ReadFingers,
     Diagrams,

@@ -2,6 +2,7 @@
 
 #include "controls/application.h"
 #include "controls/focusring.h"
+#include "controls/handle.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -148,19 +149,19 @@ void TwipPicture::GoToEnd(const PictureParts& parts, bool last) {
 
 void TwipPicture::ShowMenu(const PictureParts& parts) {
     const PicturePart& part = parts.parts[static_cast<std::size_t>(m_focusPart)];
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("PartMenu"));
-    const auto add = [&menu](const std::vector<PartAction>& actions) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("PartMenu"));
+    const auto add = [menu](const std::vector<PartAction>& actions) {
         for (const PartAction& action : actions)
-            menu.addAction(action.name)->setData(QVariant::fromValue(action.run));
+            Handle(menu->addAction(action.name), &QAction::triggered, menu, action.run);
     };
-    menu.addSection(part.name);
+    menu->addSection(part.name);
     add(part.actions);
-    menu.addSeparator();
+    menu->addSeparator();
     add(parts.actions);
-    const QPoint below = ToPixels(part.place).toRect().center();
-    if (const QAction* chosen = menu.exec(mapToGlobal(below)))
-        chosen->data().value<std::function<void()>>()();
+    // Not waited for: a playback that runs goes on.
+    menu->popup(mapToGlobal(ToPixels(part.place).toRect().center()));
 }
 
 QSize TwipPicture::PixelSize() const {

@@ -7,6 +7,8 @@
 #include "music/pianokeys.h"
 #include "pictures/fretboardlayout.h"
 
+#include <bitset>
+
 // Where a row and a fret meet; fret 0 lies off the board.
 struct BoardPlace {
     int row = 0;

@@ -9,6 +9,7 @@
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
 #include "settings/frmsettings.h"
+#include "program/stopkey.h"
 #include "sound/eventclock.h"
 #include "sound/midiapi.h"
 
@@ -106,6 +107,7 @@ void StartUp::ConnectWindows() {
         return mayEnd;
     });
     m_application.SetEnd([this] { m_window->close(); });
+    m_stopKey = std::make_unique<StopKey>([this] { m_window->GoldButton3_Click(); });
 }
 
 void StartUp::GiveHelp(QWidget& window) {

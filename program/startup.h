@@ -11,6 +11,7 @@
 class Application;
 class HelpOpener;
 class frmDiags;
+class StopKey;
 class frmSplash;
 
 class StartUp {
@@ -46,4 +47,5 @@ private:
     std::unique_ptr<HelpOpener> m_help;
     std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
     std::unique_ptr<frmSplash> m_splash;
+    std::unique_ptr<StopKey> m_stopKey;
 };

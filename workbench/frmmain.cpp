@@ -34,9 +34,7 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ConnectTry();
     ConnectHear();
     ConnectMore();
-    for (QWidget* widget : findChildren<QWidget*>())
-        widget->installEventFilter(this);
-    installEventFilter(this);
+    qApp->installEventFilter(this); // Open lists and menus are windows of their own.
     ShowBuiltInTexts();
     ApplyTongue();
     ShowState();

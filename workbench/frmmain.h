@@ -115,6 +115,7 @@ public:
     void GoldButton1_Click();
     void GoldButton2_Click();
     void GoldButton3_Click();
+    void cmdStrum_Click();
 
     // The keys that have a command, in the order in which they are looked for: the first row
     // that fits is run. Arrows that are not among them move the focus to the fretboard.
@@ -145,6 +146,9 @@ private:
     void ConnectTry();
     void ConnectHear();
     void ConnectMore();
+    // Whether the key has been dealt with. inPopup: pressed in an open list or menu.
+    bool KeyPressed(const QKeyEvent& press, bool inPopup);
+    const KeyCommand* FindCommand(int key, int shift) const;
     void StepRow(ListBox& list, int step, int rows);
     void GoToFind();
     void StepRoot(int step);
@@ -174,7 +178,6 @@ private:
     void ForgetSteps();
 
     // The command of a key, by the modifiers of Form_KeyDown; empty for a key that has none.
-    std::function<void()> CommandOf(int key, int shift);
     std::function<void()> CommandOf(const QKeyEvent& press);
 
     // The same as Do for the commands of the fretboard, which ignore a run-time error.

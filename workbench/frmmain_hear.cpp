@@ -5,6 +5,7 @@
 void frmMain::ConnectHear() {
     Handle(GoldButton1, &GoldButton::Click, this, &frmMain::GoldButton1_Click);
     Handle(GoldButton2, &GoldButton::Click, this, &frmMain::GoldButton2_Click);
+    Handle(cmdStrum, &GoldButton::Click, this, &frmMain::cmdStrum_Click);
     Handle(GoldButton3, &GoldButton::Click, this, &frmMain::GoldButton3_Click);
     m_playback.SetShow([this] { ShowInstruments(); });
 }
@@ -15,6 +16,10 @@ void frmMain::GoldButton1_Click() {
 
 void frmMain::GoldButton2_Click() {
     m_playback.PlayStrings(lstWhat->currentIndex() == 1);
+}
+
+void frmMain::cmdStrum_Click() {
+    m_playback.Strum();
 }
 
 void frmMain::GoldButton3_Click() {

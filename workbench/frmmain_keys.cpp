@@ -4,6 +4,7 @@
 #include "controls/application.h"
 #include "core/numbers.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -16,19 +17,40 @@ int ModifierMask(Qt::KeyboardModifiers modifiers) {
            (modifiers.testFlag(Qt::AltModifier) ? altKey : none);
 }
 
+bool IsArrow(int key) {
+    return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
+}
+
+bool IsPopup(const QWidget* window) {
+    return window->windowType() == Qt::Popup;
+}
+
+// The window that an open list or menu belongs to; null where nobody knows.
+const QWidget* OwnerOf(const QWidget* popup) {
+    while (popup != nullptr && IsPopup(popup)) {
+        const QWidget* control = popup->parentWidget();
+        if (control == nullptr)
+            control = popup->focusProxy(); // The text box of a completer's list.
+        popup = control != nullptr ? control->window() : nullptr;
+    }
+    return popup;
+}
+
+void ClosePopups() {
+    while (QWidget* popup = QApplication::activePopupWidget())
+        if (!popup->close())
+            return;
+}
+
 } // namespace
 
+// For every window, as open lists and menus are windows of their own.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    // The list of an open drop-down is a window of its own and keeps its keys.
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::KeyPress && widget != nullptr && widget->window() == this) {
-        const auto* press = static_cast<QKeyEvent*>(event);
-        bool handled = true;
-        Application::Guard(
-            [&] { handled = Form_KeyDown(press->key(), ModifierMask(press->modifiers())); });
-        if (handled)
-            return true;
-    }
+    if (widget == nullptr || OwnerOf(widget->window()) != this)
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        return KeyPressed(*static_cast<QKeyEvent*>(event), IsPopup(widget->window()));
     if (event->type() == QEvent::ToolTip)
         if (const auto* picture = qobject_cast<TwipPicture*>(watched)) {
             RestOn(picture);
@@ -39,6 +61,20 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+bool frmMain::KeyPressed(const QKeyEvent& press, bool inPopup) {
+    const int shift = ModifierMask(press.modifiers());
+    const KeyCommand* command = FindCommand(press.key(), shift);
+    if (inPopup && command == nullptr)
+        return false; // An open list or menu keeps its own keys.
+    if (inPopup)
+        ClosePopups();
+    if (press.isAutoRepeat() && command != nullptr && command->held == Held::OnePress)
+        return true;
+    bool handled = true;
+    Application::Guard([&] { handled = Form_KeyDown(press.key(), shift); });
+    return handled;
+}
+
 std::span<const KeyCommand> frmMain::KeyTable() {
     using Command = KeyCommand;
     static constexpr std::array commands{
@@ -47,8 +83,14 @@ std::span<const KeyCommand> frmMain::KeyTable() {
         Command{Qt::Key_F3, shiftKey, [](frmMain& window) { window.cmdFindChord_Click(); }},
         Command{Qt::Key_F3, any, [](frmMain& window) { window.cmdFind_Click(); }},
         Command{Qt::Key_F4, any, [](frmMain& window) { window.cmdFindNew_Click(); }},
-        Command{Qt::Key_F5, any, [](frmMain& window) { window.GoldButton1_Click(); }},
-        Command{Qt::Key_F6, any, [](frmMain& window) { window.GoldButton2_Click(); }},
+        Command{Qt::Key_F5, any, [](frmMain& window) { window.GoldButton1_Click(); },
+                Held::OnePress},
+        Command{Qt::Key_F6, any, [](frmMain& window) { window.GoldButton2_Click(); },
+                Held::OnePress},
+        Command{Qt::Key_Return, ctrlKey, [](frmMain& window) { window.cmdStrum_Click(); },
+                Held::OnePress},
+        Command{Qt::Key_Enter, ctrlKey, [](frmMain& window) { window.cmdStrum_Click(); },
+                Held::OnePress},
         Command{Qt::Key_F7, any, [](frmMain& window) { window.GoldButton3_Click(); }},
         Command{Qt::Key_F8, any, [](frmMain& window) { window.Command1_Click(); }},
         Command{Qt::Key_F9, any, [](frmMain& window) { window.Command2_Click(); }},
@@ -69,35 +111,34 @@ std::span<const KeyCommand> frmMain::KeyTable() {
     return commands;
 }
 
-bool frmMain::Form_KeyDown(int key, int shift) {
-    const bool arrow =
-        key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
-    if (arrow) // The lists must not react to it as well.
-        panel->picStrings->setFocus();
-    const auto command = CommandOf(key, shift);
-    if (command)
-        command();
-    return arrow || command;
-}
-
-std::function<void()> frmMain::CommandOf(int key, int shift) {
+// The first row that fits is run.
+const KeyCommand* frmMain::FindCommand(int key, int shift) const {
     // A text field takes back what was typed in it.
     if (key == Qt::Key_Z && qobject_cast<QLineEdit*>(focusWidget()) != nullptr)
-        return {};
+        return nullptr;
     const auto table = KeyTable();
     const auto command =
         std::find_if(table.begin(), table.end(), [key, shift](const KeyCommand& row) {
             return row.key == key && (row.shift == shift || row.shift == any);
         });
-    if (command == table.end())
-        return {};
-    return [this, run = command->run] { run(*this); };
+    return command != table.end() ? &*command : nullptr;
+}
+
+bool frmMain::Form_KeyDown(int key, int shift) {
+    const bool arrow = IsArrow(key);
+    if (arrow) // The lists must not react to it as well.
+        panel->picStrings->setFocus();
+    const KeyCommand* command = FindCommand(key, shift);
+    if (command == nullptr)
+        return arrow;
+    command->run(*this);
+    return true;
 }
 
 std::function<void()> frmMain::CommandOf(const QKeyEvent& press) {
     const int key = press.key();
     const int shift = ModifierMask(press.modifiers());
-    if (!CommandOf(key, shift))
+    if (FindCommand(key, shift) == nullptr)
         return {};
     return [=, this] { Form_KeyDown(key, shift); };
 }

@@ -44,6 +44,8 @@ constexpr std::array toolTips{
             u"Mark the strings' notes on the keyboard (F9)"},
     ToolTip{u"GoldButton1", u"Сыграть отмеченные клавиши (F5)", u"Play the marked keys (F5)"},
     ToolTip{u"GoldButton2", u"Сыграть струны (F6)", u"Play the strings (F6)"},
+    ToolTip{u"cmdStrum", u"Сыграть все струны разом (Ctrl+Enter)",
+            u"Play all strings at once (Ctrl+Enter)"},
     ToolTip{u"GoldButton3", u"Остановить проигрывание (F7)", u"Stop playing (F7)"},
     ToolTip{u"lstWhat", u"Темп", u"Tempo"},
     ToolTip{u"lstTemp", u"Повторение", u"Repetition"},

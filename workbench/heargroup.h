@@ -13,6 +13,7 @@ struct HearGroup {
     QGroupBox* Frame4;
     GoldButton* GoldButton1;
     GoldButton* GoldButton2;
+    GoldButton* cmdStrum;
     GoldButton* GoldButton3;
     DropDown* lstWhat;
     DropDown* lstTemp;

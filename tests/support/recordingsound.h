@@ -40,6 +40,7 @@ public:
         for (const QString& file : files)
             strummed += QDir::fromNativeSeparators(file).section(QStringLiteral("sounds/"), 1);
         strumming = true;
+        ++strums;
     }
     void EndStrum() override {
         if (std::exchange(strumming, false))
@@ -53,6 +54,7 @@ public:
     int closed = 0;
     QStringList strummed; // By the last strum.
     bool strumming = false;
+    int strums = 0;
     double sounding = 0; // From when on notes begin to sound.
 
 private:

@@ -214,28 +214,22 @@ void PicturePartsTest::BarreByKeyboard() {
 }
 
 void PicturePartsTest::TheMenuKeyOffersWhatARightClickDoes() {
-    const auto choose = [](const QString& text) {
-        QTimer::singleShot(0, qApp, [text] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (QAction* action : menu->actions())
-                if (action->text() == text)
-                    return menu->setActiveAction(action), QTest::keyClick(menu, Qt::Key_Return);
-            menu->close();
-        });
+    const auto choose = [](QWidget* picture, const QString& text) {
+        picture->setFocus();
+        QTest::keyClick(picture, Qt::Key_Menu);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (QAction* action : menu->actions())
+            if (action->text() == text)
+                return menu->setActiveAction(action), QTest::keyClick(menu, Qt::Key_Return);
+        menu->close();
     };
-    m_main->board->setFocus();
-    choose(QStringLiteral("Заглушить"));
-    QTest::keyClick(m_main->board, Qt::Key_Menu);
+    choose(m_main->board, QStringLiteral("Заглушить"));
     QVERIFY(!m_main->workbench.Row(5).enabled);
-    choose(QStringLiteral("Снять всё"));
-    QTest::keyClick(m_main->board, Qt::Key_Menu);
+    choose(m_main->board, QStringLiteral("Снять всё"));
     QVERIFY(!m_main->workbench.Row(4).mark);
-    m_main->keyboard->setFocus();
-    choose(QStringLiteral("Снять все отметки"));
-    QTest::keyClick(m_main->keyboard, Qt::Key_Menu);
+    choose(m_main->keyboard, QStringLiteral("Снять все отметки"));
     QVERIFY(m_main->workbench.Keys().Marked().empty());
-    choose(QStringLiteral("none of these"));
-    QTest::keyClick(m_main->keyboard, Qt::Key_Menu);
+    choose(m_main->keyboard, QStringLiteral("none of these"));
     QVERIFY(m_main->workbench.Keys().Marked().empty());
 }
 
