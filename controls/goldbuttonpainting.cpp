@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int skinBorder = 2;
@@ -128,22 +130,24 @@ void PaintGoldButton(QPainter& painter, const GoldButtonLook& look) {
         PaintEdge(painter, look.rect, look.edge, look.palette);
 
     const QFontMetrics metrics(painter.font());
-    const QSize content =
-        GoldButtonSize(look.caption, look.pictureSize, metrics) - QSize(2 * marginX, 2 * marginY);
     const QRect inner = look.rect.adjusted(marginX, 0, -marginX, 0);
-    int x = inner.left() + (inner.width() - content.width()) / 2;
+    const int picture = look.pictureSize.isValid() ? look.pictureSize.width() : 0;
+    const int gap = picture > 0 && !look.caption.isEmpty() ? pictureGap : 0;
+    const int caption = TextWidth(look.caption, metrics, std::max(0, inner.width() - picture - gap),
+                                  Qt::TextShowMnemonic);
+    const int free = inner.width() - picture - gap - caption;
+    int x = inner.left() + free / 2;
     if (look.alignment == 0)
         x = inner.left();
     else if (look.alignment == 1)
-        x = inner.right() + 1 - content.width();
+        x = inner.left() + free;
     if (look.pictureSize.isValid()) {
         const QRect place({x, (look.rect.height() - look.pictureSize.height()) / 2},
                           look.pictureSize);
         PaintPicture(painter, place, look);
-        x += look.pictureSize.width() + pictureGap;
+        x += picture + gap;
     }
-    PaintCaption(painter, QRect(x, 0, look.rect.right() - x, look.rect.height()), look);
-    if (look.focused) {
+    PaintCaption(painter, QRect(x, 0, caption, look.rect.height()), look);
+    if (look.focused)
         FocusRing::Paint(painter, QRectF(look.rect).adjusted(2, 2, -2, -2));
-    }
 }

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void AToolTipBreaksWordsOnlyWhereItMust();
     void CaptionsWidenNoWindow_data();
     void CaptionsWidenNoWindow();
+    void ALongCaptionIsCutInTheMiddleOfItsButton();
     void ARowTooLongForItsListIsReadInItsToolTip();
     void ARowThatFitsLeavesTheListItsToolTip();
     void ABoxStaysOnTheScreen_data();
@@ -198,6 +199,27 @@ void LongTextsTest::CaptionsWidenNoWindow() {
     window.show();
     QVERIFY(window.minimumSizeHint().width() < 450);
     QVERIFY(window.width() < 700);
+}
+
+void LongTextsTest::ALongCaptionIsCutInTheMiddleOfItsButton() {
+    GoldButton button(QStringLiteral("button"));
+    button.SetCaption(Letters(255));
+    button.SetForeColor(OleColor::Rgb(200, 0, 0));
+    QFont hard = button.font(); // Letters without grey edges can be found.
+    hard.setStyleStrategy(QFont::NoAntialias);
+    button.setFont(hard);
+    button.resize(400, 40);
+    const QImage image = Painted(button);
+    int first = image.width();
+    int last = 0;
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y)
+            if (image.pixelColor(x, y) == QColor(200, 0, 0)) {
+                first = std::min(first, x);
+                last = x;
+            }
+    QVERIFY(first < 20 && last > 365); // As much as there is room for,
+    QVERIFY(last < 400 - 5);           // and nothing over the edge.
 }
 
 void LongTextsTest::ARowTooLongForItsListIsReadInItsToolTip() {
