@@ -7,7 +7,6 @@
 
 #include <algorithm>
 
-const QString defaultLanguage = QStringLiteral("Default");
 const QString missingLanguageText = QStringLiteral("LANG FILE ERROR!");
 
 LanguageTexts::LanguageTexts(const QString& path) : m_file(ProfileFile::Read(path)) {}
@@ -54,4 +53,9 @@ UiTexts BuiltInUiTexts() {
     return {QStringLiteral("Такого типа аккорда нет в базе данных программы."),
             QStringLiteral("Аккорд с таким строением уже есть в списке. Добавлять?"),
             QStringLiteral("Альтернативные обозначения:"), QStringLiteral("Внимание!")};
+}
+
+UiTexts UiTextsOf(const LanguageTexts& texts) {
+    const auto text = [&](int key) { return texts.Text(QStringLiteral("Main"), key); };
+    return {text(19), text(20), text(21), text(22)};
 }

@@ -7,7 +7,6 @@
 
 struct AppState;
 
-extern const QString defaultLanguage;     // "Default": the built-in Russian texts.
 extern const QString missingLanguageText; // Shown where a language file lacks a key.
 
 // The texts of one language file. A file that cannot be read lacks every key.
@@ -45,3 +44,6 @@ QStringList LanguageFiles(const QString& appPath);
 // The built-in texts of messages, in force while no language file is.
 struct UiTexts;
 UiTexts BuiltInUiTexts();
+
+// Those of a language file.
+UiTexts UiTextsOf(const LanguageTexts& texts);

@@ -1,11 +1,12 @@
 #include "core/mdlmain.h"
 
 #include "core/chordtypes.h"
-#include "core/language.h"
 #include "core/scales.h"
 #include "core/tunings.h"
 
 #include <QDir>
+
+const QString defaultLanguage = QStringLiteral("Default");
 
 AppState::AppState()
     : ChordTypes(BuiltInChordTypes()),
@@ -23,6 +24,18 @@ Tongue AppState::InterfaceTongue() const {
 
 QString AppState::SettingsFile() const {
     return AppPath + QStringLiteral("tonvik.ini");
+}
+
+void ReadChordTypes(AppState& state) {
+    state.ChordTypes.AppendDataFile(state.AppPath + QStringLiteral("chords.dat"));
+}
+
+void ReadScales(AppState& state) {
+    state.Scales.AppendDataFile(state.AppPath + QStringLiteral("scales.dat"));
+}
+
+void ReadTunings(AppState& state) {
+    state.Tunings.AppendDataFile(state.AppPath + QStringLiteral("tunings.dat"));
 }
 
 QString FolderPath(const QString& folder) {

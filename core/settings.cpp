@@ -81,10 +81,11 @@ bool CanBeRemembered(const QString& language) {
 
 void LayStrings(AppState& state, const OpenStrings& strings, bool thinStringAtBottom) {
     state.ThinStringAtBottom = thinStringAtBottom;
-    for (std::size_t row = 0; row < stringCount; ++row) {
-        const std::size_t string = thinStringAtBottom ? row : stringCount - 1 - row;
-        state.StringNotes[row] = strings.notes[string];
-        state.SoundNumbers[row] = strings.soundNumbers[string];
+    for (int string = 1; string <= stringCount; ++string) {
+        const auto from = static_cast<std::size_t>(string - 1);
+        const auto row = static_cast<std::size_t>(RowOfString(string, thinStringAtBottom));
+        state.StringNotes[row] = strings.notes[from];
+        state.SoundNumbers[row] = strings.soundNumbers[from];
     }
 }
 

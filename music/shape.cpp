@@ -1,6 +1,10 @@
 #include "music/shape.h"
 
+#include "music/fingering.h"
+
 #include <QStringView>
+
+#include <algorithm>
 
 QString FretsText(const Shape& shape) {
     QString text;
@@ -46,4 +50,10 @@ std::optional<Shape> ReadShape(QStringView frets) {
         shape.frets[static_cast<std::size_t>(string - 1)] = static_cast<std::int8_t>(fret);
     }
     return place == frets.size() ? std::optional(shape) : std::nullopt;
+}
+
+ShapeBarre BarreOnStrings(const Barre& barre, bool thinStringAtBottom) {
+    const auto [thinnest, thickest] = std::minmax(
+        {StringOfRow(0, thinStringAtBottom), StringOfRow(barre.lastRow, thinStringAtBottom)});
+    return {.fret = barre.fret, .thinnest = thinnest, .thickest = thickest};
 }

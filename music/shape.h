@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+struct Barre;
+
 // One finger, or the neck's bar, across several strings.
 struct ShapeBarre {
     int fret = 1;
@@ -51,10 +53,5 @@ QString FingersText(const Shape& shape);
 // to 99.
 std::optional<Shape> ReadShape(QStringView frets);
 
-// The string that lies in a row of the fretboard, row 0 the lowest, and the row of a string.
-constexpr int StringOfRow(int row, bool thinStringAtBottom) {
-    return thinStringAtBottom ? row + 1 : stringCount - row;
-}
-constexpr int RowOfString(int string, bool thinStringAtBottom) {
-    return thinStringAtBottom ? string - 1 : stringCount - string;
-}
+// The strings under a barre of rows; its finger is not known.
+ShapeBarre BarreOnStrings(const Barre& barre, bool thinStringAtBottom);

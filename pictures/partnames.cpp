@@ -1,6 +1,6 @@
 #include "pictures/partnames.h"
 
-#include "pictures/fretboardlayout.h"
+#include "music/shape.h"
 
 #include <QStringList>
 
@@ -76,11 +76,11 @@ QString BarrePartName(std::optional<Barre> barre, bool thinStringAtBottom, Tongu
     QStringList parts{In(tongue, u"барре", u"barre")};
     if (!barre)
         return Joined(parts << In(tongue, u"снято", u"off"));
-    const auto [first, last] = std::minmax(
-        {StringOfRow(0, thinStringAtBottom), StringOfRow(barre->lastRow, thinStringAtBottom)});
-    return Joined(
-        parts << Fret(barre->fret, tongue)
-              << In(tongue, u"струны с %1 по %2", u"strings %1 to %2").arg(first).arg(last));
+    const ShapeBarre span = BarreOnStrings(*barre, thinStringAtBottom);
+    return Joined(parts << Fret(barre->fret, tongue)
+                        << In(tongue, u"струны с %1 по %2", u"strings %1 to %2")
+                               .arg(span.thinnest)
+                               .arg(span.thickest));
 }
 
 QString CrossingHint(int string, int fret, PitchClass note, const std::vector<int>& markedKeys,

@@ -23,7 +23,7 @@ int SoundingFret(const RowSound& row, std::optional<int> barreFret) {
 std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom) {
     std::array<int, stringCount> rows{};
     for (int i = 0; i < stringCount; ++i)
-        rows[static_cast<std::size_t>(i)] = thinStringAtBottom ? stringCount - 1 - i : i;
+        rows[static_cast<std::size_t>(i)] = RowOfString(stringCount - i, thinStringAtBottom);
     return rows;
 }
 

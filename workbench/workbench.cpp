@@ -6,8 +6,6 @@
 #include "core/scales.h"
 #include "music/spelling.h"
 
-#include <algorithm>
-
 namespace {
 
 void CheckRow(int row) {
@@ -297,16 +295,14 @@ std::optional<int> Workbench::ShownBarreFret() const {
 }
 
 Shape Workbench::NeckShape() const {
-    const auto stringOf = [this](int row) { return StringOfRow(row, m_state->ThinStringAtBottom); };
+    const bool thinAtBottom = m_state->ThinStringAtBottom;
     Shape shape;
     for (int row = 0; row < stringCount; ++row)
         if (Row(row).enabled)
-            shape.frets[static_cast<std::size_t>(stringOf(row) - 1)] =
+            shape.frets[static_cast<std::size_t>(StringOfRow(row, thinAtBottom) - 1)] =
                 static_cast<std::int8_t>(SoundingFret(SoundOfRow(row), ShownBarreFret()));
-    if (m_barre) {
-        const auto [thinnest, thickest] = std::minmax({stringOf(0), stringOf(m_barre->lastRow)});
-        shape.barres.push_back({.fret = m_barre->fret, .thinnest = thinnest, .thickest = thickest});
-    }
+    if (m_barre)
+        shape.barres.push_back(BarreOnStrings(*m_barre, thinAtBottom));
     return shape;
 }
 
