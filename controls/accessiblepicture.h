@@ -2,5 +2,5 @@
 // and what can be done with it.
 #pragma once
 
-// To be called before a screen reader first looks at a picture.
+// To be called before a screen reader first looks at a picture; once is enough.
 void InstallAccessiblePictures();

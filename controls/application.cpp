@@ -1,6 +1,5 @@
 #include "controls/application.h"
 
-#include "controls/accessiblepicture.h"
 #include "controls/focusring.h"
 #include "controls/messagebox.h"
 #include "controls/scrollmenu.h"
@@ -29,7 +28,6 @@ void Prepare(QMessageBox& box, const RunTimeError& error, Tongue tongue) {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     ApplyTheme();
-    InstallAccessiblePictures();
     FocusRing::Install();
     InstallScrollMenus();
     setQuitOnLastWindowClosed(false);

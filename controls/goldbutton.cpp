@@ -11,6 +11,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+static_assert(GoldButton::skinStep == skinPartSize);
+
 namespace {
 
 int ButtonNumber(Qt::MouseButton button) {

@@ -2,21 +2,12 @@
 // hovered, pressed or disabled, and can draw itself from a skin picture.
 #pragma once
 
+#include "controls/edge.h"
 #include "controls/olecolor.h"
 
 #include <QAbstractButton>
 #include <QIcon>
 #include <QPixmap>
-
-// Flags of an edge's two rings, as the platform's edge drawing has them.
-namespace Edge {
-constexpr int raisedOuter = 1;
-constexpr int sunkenOuter = 2;
-constexpr int raisedInner = 4;
-constexpr int sunkenInner = 8;
-constexpr int raised = raisedOuter | raisedInner;
-constexpr int sunken = sunkenOuter | sunkenInner;
-} // namespace Edge
 
 class QMimeData;
 

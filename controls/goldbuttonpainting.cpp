@@ -1,8 +1,8 @@
 #include "controls/goldbuttonpainting.h"
 
+#include "controls/edge.h"
 #include "controls/elided.h"
 #include "controls/focusring.h"
-#include "controls/goldbutton.h"
 
 #include <QPainter>
 
@@ -13,7 +13,7 @@ namespace {
 constexpr int skinBorder = 2;
 constexpr int skinPiece = 19;
 constexpr int skinFar = skinBorder + skinPiece; // Where a part's right and lower borders begin.
-static_assert(skinFar + skinBorder == GoldButton::skinStep);
+static_assert(skinFar + skinBorder == skinPartSize);
 
 constexpr int marginX = 9;
 constexpr int marginY = 5;
@@ -50,8 +50,8 @@ void PaintEdge(QPainter& painter, QRect ring, int edge, const QPalette& palette)
 }
 
 void PaintSkin(QPainter& painter, const QRect& rect, const QPixmap& skin, int part) {
-    const int parts = qRound(skin.deviceIndependentSize().width()) / GoldButton::skinStep;
-    const int left = (part < parts ? part : 0) * GoldButton::skinStep;
+    const int parts = qRound(skin.deviceIndependentSize().width()) / skinPartSize;
+    const int left = (part < parts ? part : 0) * skinPartSize;
     const double scale = skin.devicePixelRatio();
     const auto copy = [&](QRect target, QRect source) {
         source.translate(left, 0);

@@ -10,6 +10,8 @@
 
 class QPainter;
 
+constexpr int skinPartSize = 23; // A part's pixels, wide and high.
+
 // A picture's pixels of one colour are shown in another.
 struct PictureMask {
     QColor colour;

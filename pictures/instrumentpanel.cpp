@@ -1,5 +1,6 @@
 #include "pictures/instrumentpanel.h"
 
+#include "controls/accessiblepicture.h"
 #include "controls/colours.h"
 #include "controls/labellook.h"
 #include "pictures/keyboardlayout.h"
@@ -24,6 +25,7 @@ constexpr double letterShare = 0.78;
 } // namespace
 
 InstrumentPanel::InstrumentPanel(QWidget* parent) : QWidget(parent) {
+    InstallAccessiblePictures();
     setMouseTracking(true);
     for (int fret = 1; fret <= fretLabels; ++fret) {
         auto* label = new HotLabel(QStringLiteral("Label3(%1)").arg(fret - 1), this);

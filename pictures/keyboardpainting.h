@@ -1,7 +1,7 @@
 // Painting the piano, in twips.
 #pragma once
 
-#include "pictures/pickeyboard.h"
+#include "pictures/instrumentviews.h"
 
 class QPainter;
 
