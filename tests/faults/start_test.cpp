@@ -78,6 +78,8 @@ void StartTest::init() {
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     m_environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(PLUGINS));
     m_environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), QStringLiteral("witness"));
+    m_environment.insert(QStringLiteral("LSAN_OPTIONS"),
+                         QStringLiteral("print_suppressions=0:suppressions=" SUPPRESSIONS));
 }
 
 void StartTest::Install(const QString& folder) {
