@@ -4,7 +4,7 @@
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
 #include "controls/twips.h"
-#include "core/language.h"
+#include "controls/windowtexts.h"
 #include "core/mdlmain.h"
 #include "info/findbar.h"
 #include "info/frmabout.h"
@@ -29,6 +29,13 @@ constexpr int margin = 50;
 constexpr int besideText = 200;
 constexpr int belowText = 1000;
 constexpr int buttonGap = 100;
+
+constexpr std::array texts{
+    Ours(u"frmHelp", TextPlace::Caption, u"Помощь", u"Help"),
+    Ours(u"Text1", TextPlace::Name, u"Текст справки", u"Help text"),
+    OfFile(u"Command1", TextPlace::Caption, 1, u"О программе"),
+    Ours(u"cmdOK", TextPlace::Description, u"Закрыть окно", u"Close the window"),
+};
 
 } // namespace
 
@@ -62,16 +69,7 @@ frmHelp::frmHelp(const AppState& state, std::function<ChordRows()> chordRows, Au
 void frmHelp::Form_Load() {
     const Tongue tongue = m_state.InterfaceTongue();
     Text1->setPlainText(FitForTextBox(ReadHelp(m_state.AppPath), tongue));
-    setWindowTitle(QStringLiteral("Помощь"));
-    Command1->SetCaption(QStringLiteral("О программе"));
-    if (!m_state.IsDefaultLanguage()) {
-        Command1->SetCaption(LanguageTexts(m_state.LanguageFile).Text(QStringLiteral("Help"), 1));
-        setWindowTitle(QStringLiteral("Help"));
-    }
-    Text1->setAccessibleName(
-        Phrase{QStringLiteral("Текст справки"), QStringLiteral("Help text")}.In(tongue));
-    cmdOK->setAccessibleDescription(
-        Phrase{QStringLiteral("Закрыть окно"), QStringLiteral("Close the window")}.In(tongue));
+    ApplyTexts(*this, texts, QStringLiteral("Help"), TextsInUse(m_state));
 }
 
 void frmHelp::GoTo(std::optional<Chapter> chapter) {

@@ -2,6 +2,7 @@
 
 #include "controls/application.h"
 #include "controls/handle.h"
+#include "controls/windowtexts.h"
 #include "core/language.h"
 #include "core/profile.h"
 #include "core/settings.h"
@@ -41,26 +42,20 @@ void StartUp::Main() {
     QApplication::processEvents();
     m_workbench = std::make_unique<Workbench>(m_state);
     m_window = std::make_unique<frmMain>(m_state, *m_workbench, *m_midi, *m_clock);
-    m_state.ChordTypes.AppendDataFile(m_state.AppPath + QStringLiteral("chords.dat"));
+    ReadChordTypes(m_state);
     m_splash->ProgressStep();
     m_window->ShowTypes();
     LoadLanguage(settings.Language());
     m_splash->ProgressStep();
     m_window->ShowRoots();
-    m_state.Scales.AppendDataFile(m_state.AppPath + QStringLiteral("scales.dat"));
+    ReadScales(m_state);
     m_splash->ProgressStep();
     m_window->ShowScales();
-    m_state.Tunings.AppendDataFile(m_state.AppPath + QStringLiteral("tunings.dat"));
+    ReadTunings(m_state);
     m_splash->ProgressStep();
     m_workbench->SaveKeyColours();
     UseSettings(m_state, settings);
     m_workbench->StringsChanged();
-    if (m_state.IsDefaultLanguage()) {
-        m_window->FillBuiltInLists();
-        m_state.UiText = BuiltInUiTexts();
-    } else {
-        m_window->setWindowTitle(QStringLiteral("Tonvik"));
-    }
     m_window->SelectDefaults();
     m_splash->ProgressStep();
     m_splash.reset();
@@ -80,10 +75,9 @@ void StartUp::LoadLanguage(const QString& name) {
             .exec();
         ForgetLanguage(m_state);
     }
-    if (choice == LanguageChoice::File) {
-        m_window->ApplyLanguage(LanguageTexts(m_state.LanguageFile));
-        m_window->ApplyTongue();
-    }
+    const TextSource texts = TextsInUse(m_state);
+    m_state.UiText = texts.file ? UiTextsOf(*texts.file) : BuiltInUiTexts();
+    m_window->ShowTexts(texts);
 }
 
 void StartUp::ConnectWindows() {

@@ -3,6 +3,7 @@
 
 #include "controls/handle.h"
 #include "controls/newcontrols.h"
+#include "controls/windowtexts.h"
 #include "core/runtimeerror.h"
 
 #include <QApplication>
@@ -35,8 +36,7 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ConnectHear();
     ConnectMore();
     qApp->installEventFilter(this); // Open lists and menus are windows of their own.
-    ShowBuiltInTexts();
-    ApplyTongue();
+    ShowTexts({});
     ShowState();
 }
 
@@ -61,6 +61,8 @@ void frmMain::ConnectMore() {
 }
 
 void frmMain::SelectDefaults() {
+    lstBarre->SelectRow(stringCount - 1);
+    lstLadBarre->SelectRow(0);
     lstWhat->SelectRow(1);
     lstTemp->SelectRow(0);
     lstBase->SelectRow(0);

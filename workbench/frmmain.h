@@ -18,7 +18,7 @@
 #include <functional>
 #include <span>
 
-class LanguageTexts;
+struct TextSource;
 struct TypedChord;
 
 // The groups are bases for their controls to be the window's own. Their order is the order in
@@ -40,12 +40,10 @@ public:
     void ShowTypes();  // Fills lstType from the catalogue.
     void ShowScales(); // Fills lstLad from the catalogue.
     void ShowRoots();  // Fills lstBase with the twelve names.
-    void FillBuiltInLists();
-    void ApplyLanguage(const LanguageTexts& texts);
-
-    // The texts that no language file holds, in the interface's language.
-    void ApplyTongue();
     void SelectDefaults();
+
+    // Gives every control its texts; nothing is selected in the drop-down lists then.
+    void ShowTexts(const TextSource& source);
 
     // Writes the whole state into the controls and repaints what changed.
     void ShowState();
@@ -138,7 +136,6 @@ protected:
 
 private:
     void LayOut();
-    void ShowBuiltInTexts();
     void ConnectChoose();
     void ConnectSee();
     void ConnectNames();

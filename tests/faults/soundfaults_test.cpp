@@ -149,7 +149,6 @@ private Q_SLOTS:
         window.ShowTypes();
         window.ShowRoots();
         window.ShowScales();
-        window.FillBuiltInLists();
         window.SelectDefaults(); // Three keys are marked.
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));

@@ -1,6 +1,7 @@
-// Every shipped language in the real windows: no caption is clipped.
+// Every shipped language in the real windows: no caption is clipped, no control without a text.
 #include "controls/application.h"
 #include "controls/textlabel.h"
+#include "controls/windowtexts.h"
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/mainwindow.h"
@@ -16,6 +17,30 @@ private Q_SLOTS:
 };
 
 namespace {
+
+// Controls that show a state or a picture, and so have no text of their own.
+const QStringList withoutText{QStringLiteral("lblHint"), QStringLiteral("Label1")};
+
+// The controls that a user can read or work, and that nothing says what they are for.
+QStringList Textless(const QWidget& window) {
+    QStringList textless;
+    for (const auto* control : window.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(control);
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        const auto* frame = qobject_cast<const QGroupBox*>(control);
+        const QString name = control->objectName();
+        const bool mine =
+            !name.isEmpty() && !name.startsWith(u"qt_") && !withoutText.contains(name) &&
+            (label != nullptr || frame != nullptr || control->focusPolicy() != Qt::NoFocus);
+        const QString said = control->toolTip() + control->accessibleName() +
+                             (label != nullptr ? label->text() : QString()) +
+                             (button != nullptr ? button->text() : QString()) +
+                             (frame != nullptr ? frame->title() : QString());
+        if (mine && said.isEmpty())
+            textless += name;
+    }
+    return textless;
+}
 
 // The first control with a caption that has less room than it asks for; empty for none.
 QString Clipped(const QWidget& window) {
@@ -57,13 +82,13 @@ void CaptionsTest::Languages() {
     main.state.AppPath = QStringLiteral(PROGRAM_FOLDER "/");
     if (!file.isEmpty()) {
         main.state.LanguageFile = main.state.AppPath + file;
-        main.window.ApplyLanguage(LanguageTexts(main.state.LanguageFile));
-        main.window.ApplyTongue();
+        main.window.ShowTexts(TextsInUse(main.state));
     }
     // The window system takes its time to give a window its size.
     main.window.resize(main.window.minimumSizeHint());
     QCoreApplication::processEvents();
     QTRY_COMPARE(Clipped(main.window), QString());
+    QCOMPARE(Textless(main.window), QStringList());
     QVERIFY(main.window.minimumSizeHint().width() <= 1024);
     QVERIFY(main.window.minimumSizeHint().height() <= 560);
 
@@ -72,12 +97,14 @@ void CaptionsTest::Languages() {
     settings.show();
     QCoreApplication::processEvents();
     QTRY_COMPARE(Clipped(settings), QString());
+    QCOMPARE(Textless(settings), QStringList());
     QVERIFY(settings.width() <= 1024 && settings.height() <= 560);
 
     frmHelp help(main.state, [] { return ChordRows{12, 50}; });
     help.show();
     QCoreApplication::processEvents();
     QTRY_COMPARE(Clipped(help), QString());
+    QCOMPARE(Textless(help), QStringList());
 }
 
 int main(int argc, char** argv) {

@@ -1,7 +1,7 @@
 // Names and language files of any length: no window grows beyond a small screen, and no text
 // loses its end.
 #include "controls/application.h"
-#include "core/language.h"
+#include "controls/windowtexts.h"
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/dialogs.h"
@@ -75,8 +75,7 @@ void HostileLanguageTest::ChooseType(const QByteArray& alternatives, const QByte
 void HostileLanguageTest::TheLongestLanguageFits() {
     QVERIFY(m_folder.Write(QStringLiteral("long.lng"), LongestLanguage()));
     m_main->state.LanguageFile = m_folder.Path(QStringLiteral("long.lng"));
-    m_main->window.ApplyLanguage(LanguageTexts(m_main->state.LanguageFile));
-    m_main->window.ApplyTongue();
+    m_main->window.ShowTexts(TextsInUse(m_main->state));
     QCOMPARE(m_main->window.Frame1->title(), QString(255, u'W'));
     QVERIFY(FitsASmallScreen(m_main->window));
 

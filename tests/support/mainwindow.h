@@ -20,7 +20,6 @@ struct MainWindow {
         window.ShowTypes();
         window.ShowRoots();
         window.ShowScales();
-        window.FillBuiltInLists();
         window.SelectDefaults();
         window.OpenAtBestSize();
         window.show();
