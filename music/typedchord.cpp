@@ -3,6 +3,8 @@
 #include "core/chordtypes.h"
 #include "music/names.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace {
@@ -61,22 +63,32 @@ std::optional<Written> ReadChord(QStringView typed) {
     return readWhole ? std::optional(chord) : std::nullopt;
 }
 
-// The alternative name, of a list with commas, that begins with the text; a description is no
-// name, but a list of one is.
+// The first of an entry's alternative names that begins with the text; empty where none does.
 QString AlternativeName(const TextTable& chordTypes, int entry, const QString& text) {
-    for (const QString& name : chordTypes.Field(ChordType::AltNames, entry).split(u','))
+    const QString names = chordTypes.Field(ChordType::AltNames, entry);
+    if (!names.contains(text, Qt::CaseInsensitive))
+        return {};
+    for (const QString& name : names.split(u','))
         if (name.trimmed().startsWith(text, Qt::CaseInsensitive))
             return name.trimmed();
     return {};
 }
+
+// Of each kind no more than are asked for at all.
+struct Entries {
+    std::vector<int> exact;  // The field is the text.
+    std::vector<int> begins; // It begins with the text, in whatever case.
+};
 
 class Search {
 public:
     Search(const TextTable& chordTypes, std::size_t most) : m_types(chordTypes), m_most(most) {}
 
     void FindTypes(const QString& text) {
-        AddTypes([&](int entry) { return IsField(ChordType::Name, entry, text); });
-        AddTypes([&](int entry) { return m_types.FieldStartsWith(ChordType::Name, entry, text); });
+        const Entries names = EntriesWith(ChordType::Name, text);
+        for (const auto& entries : {names.exact, names.begins})
+            for (const int entry : entries)
+                Add({m_types.Field(ChordType::Name, entry), entry, {}, {}});
         for (int entry = 1; entry <= m_types.Count() && !Full(); ++entry)
             if (const QString name = AlternativeName(m_types, entry, text); !name.isEmpty())
                 Add({m_types.Field(ChordType::Name, entry) + QStringLiteral(" (%1)").arg(name),
@@ -86,44 +98,44 @@ public:
     }
 
     void FindChords(const Written& chord) {
-        for (const auto field : {ChordType::Suffix, ChordType::Name})
-            AddChords(chord, [&](int entry) { return IsField(field, entry, chord.suffix); });
-        for (const auto field : {ChordType::Suffix, ChordType::Name})
-            AddChords(chord, [&](int entry) {
-                return m_types.FieldStartsWith(field, entry, chord.suffix);
-            });
-        if (!chord.suffix.isEmpty())
-            AddChords(chord, [&](int entry) {
-                return !AlternativeName(m_types, entry, chord.suffix).isEmpty();
-            });
+        const Entries suffixes = EntriesWith(ChordType::Suffix, chord.suffix);
+        const Entries names = EntriesWith(ChordType::Name, chord.suffix);
+        for (const auto& entries : {suffixes.exact, names.exact, suffixes.begins, names.begins})
+            for (const int entry : entries)
+                AddChord(chord, entry);
+        for (int entry = 1; !chord.suffix.isEmpty() && entry <= m_types.Count() && !Full(); ++entry)
+            if (!AlternativeName(m_types, entry, chord.suffix).isEmpty())
+                AddChord(chord, entry);
     }
 
     std::vector<TypedChord> found;
 
 private:
-    bool IsField(int field, int entry, const QString& text) const {
-        return m_types.FieldEquals(field, entry, text);
-    }
-
     bool Full() const { return found.size() >= m_most; }
 
-    template <typename Fits>
-    void AddTypes(Fits fits) {
-        for (int entry = 1; entry <= m_types.Count() && !Full(); ++entry)
-            if (fits(entry))
-                Add({m_types.Field(ChordType::Name, entry), entry, {}, {}});
+    Entries EntriesWith(int field, const QString& text) const {
+        Entries entries;
+        for (int entry = 1; entry <= m_types.Count() && entries.exact.size() < m_most; ++entry) {
+            if (!m_types.FieldStartsWith(field, entry, text))
+                continue;
+            if (m_types.FieldEquals(field, entry, text))
+                entries.exact.push_back(entry);
+            else if (entries.begins.size() < m_most)
+                entries.begins.push_back(entry);
+        }
+        return entries;
     }
 
-    template <typename Fits>
-    void AddChords(const Written& chord, Fits fits) {
-        for (int entry = 1; entry <= m_types.Count() && !Full(); ++entry)
-            if (fits(entry))
-                Add({ChordText(NamedTypeOf(m_types, entry), chord.root,
-                               chord.bass.value_or(chord.root)),
-                     entry, chord.root, chord.bass});
+    void AddChord(const Written& chord, int entry) {
+        if (!Full())
+            Add({ChordText(NamedTypeOf(m_types, entry), chord.root,
+                           chord.bass.value_or(chord.root)),
+                 entry, chord.root, chord.bass});
     }
 
     void Add(const TypedChord& chord) {
+        if (Full())
+            return;
         const bool isNew = std::none_of(found.begin(), found.end(), [&](const TypedChord& other) {
             return other.entry == chord.entry && other.root == chord.root;
         });

@@ -46,7 +46,7 @@ bool IsUnderBarre(const FretboardView& view, int row, int fret) {
 } // namespace
 
 const QPixmap& RingStamps::Stamp(PitchClass note, bool root) {
-    QPixmap& stamp = m_stamps[static_cast<std::size_t>(note + (root ? notesPerOctave : 0))];
+    QPixmap& stamp = m_stamps[static_cast<std::size_t>(note) + (root ? notesPerOctave : 0)];
     if (!stamp.isNull())
         return stamp;
     const int side = static_cast<int>(std::ceil(stampSize * m_scale * m_ratio));

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void AnIntervalsWord();
     void TheChosenNameFirst();
     void AClickChooses();
+    void ADoubleClickChoosesOnce();
     void EnterChooses();
     void ANameThatTheCatalogueLacks();
     void ChoosingIsOneStep();
@@ -176,6 +177,17 @@ void SoundsTest::AClickChooses() {
     QCOMPARE(m_main->window.lblChord->text(), QStringLiteral("Am7"));
     QTest::mouseClick(m_main->window.lblSounds, Qt::LeftButton, {}, Middle(1));
     QCOMPARE(m_main->window.lblChord->text(), QStringLiteral("C6"));
+}
+
+void SoundsTest::ADoubleClickChoosesOnce() {
+    Lay(QStringLiteral("x02213"));
+    QWidget* label = m_main->window.lblSounds;
+    const QPointF place = Middle(1);
+    QTest::mouseClick(label, Qt::LeftButton, {}, place.toPoint());
+    QMouseEvent second(QEvent::MouseButtonDblClick, place, label->mapToGlobal(place),
+                       Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(label, &second);
+    QCOMPARE(Names(), QStringLiteral("C6/A · Am7")); // Am7 lies under the second press.
 }
 
 void SoundsTest::EnterChooses() {
