@@ -90,6 +90,7 @@ of 50 types on 12 roots in 36 tunings: median / worst|VoicingsOfAll_median Voici
 chord type / scale with a name of 2,000,000 letters chosen and shown|1xEndlessChoose 1xEndlessScale|ms|100
 such a type looked for / named / played|1xEndlessSearch 1xEndlessName 1xEndlessPlay|ms|100
 the box with its other names opened and closed|1xEndlessBox|ms|100
+every way to play a chord: window with 2,400 voicings opened / a page on|1xOpenVoicings 1xScrollVoicings|ms|50 / 16
 settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|ms|30 / 150
 help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50

@@ -5,7 +5,9 @@
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/recordingsound.h"
+#include "voicings/frmvoicings.h"
 
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
@@ -45,6 +47,47 @@ void OpenHelp(benchmark::State& state) {
     }
 }
 BENCHMARK(OpenHelp)->Unit(benchmark::kMillisecond);
+
+// A seventh chord in an open tuning, which has the most voicings of all.
+void OpenVoicings(benchmark::State& state) {
+    ChordToPlay playing{{{0, 4, 7, 10}, 0, {}}, QStringLiteral("C7")};
+    int string = 0;
+    for (const PitchClass note : {4, 0, 7, 0, 7, 0}) {
+        ++string;
+        playing.chord.tuning[static_cast<std::size_t>(string - 1)] = StringTunedTo(string, note);
+    }
+    const Voicings found = FindVoicings(playing.chord.notes, 0, playing.chord.tuning);
+    AppState shared;
+    for (auto _ : state) {
+        frmVoicings window(shared);
+        window.show();
+        window.ShowState(playing, found, {});
+        QCoreApplication::processEvents();
+    }
+    state.counters["voicings"] = static_cast<double>(found.shapes.size());
+}
+BENCHMARK(OpenVoicings)->Unit(benchmark::kMillisecond);
+
+// A page on in the same list, to the end of the paint.
+void ScrollVoicings(benchmark::State& state) {
+    ChordToPlay playing{{{0, 4, 7, 10}, 0, {}}, QStringLiteral("C7")};
+    for (int string = 1; string <= stringCount; ++string)
+        playing.chord.tuning[static_cast<std::size_t>(string - 1)] =
+            OpenString{standardPitches[static_cast<std::size_t>(string - 1)] % notesPerOctave,
+                       standardPitches[static_cast<std::size_t>(string - 1)]};
+    const Voicings found = FindVoicings(playing.chord.notes, 0, playing.chord.tuning);
+    AppState shared;
+    frmVoicings window(shared);
+    window.show();
+    window.ShowState(playing, found, {});
+    QScrollBar* bar = window.lstVoicings->verticalScrollBar();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        bar->setValue(bar->value() < bar->maximum() ? bar->value() + bar->pageStep() : 0);
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(ScrollVoicings)->Unit(benchmark::kMillisecond);
 
 void OpenLongestSheet(benchmark::State& state) {
     const QTemporaryDir folder;

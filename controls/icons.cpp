@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <array>
+
 namespace {
 
 constexpr double unitSquare = 24; // Every drawing is made on a square of this side.
@@ -200,6 +202,23 @@ void PaintDashes(QPainter& painter) {
         painter.drawLine(QPointF(3, 4 + 3.2 * line), QPointF(21, 4 + 3.2 * line));
 }
 
+// Four small diagrams, each with a finger elsewhere.
+void PaintVoicings(QPainter& painter) {
+    constexpr std::array fingers{QPointF(3.4, 6.8), QPointF(20.6, 3.8), QPointF(6.2, 20.2),
+                                 QPointF(17.8, 17.2)};
+    for (const double x : {3.4, 15.0})
+        for (const double y : {2.4, 13.6}) {
+            painter.setPen(Line(Colours::text, 1.1));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(QRectF(x, y, 5.6, 8));
+            painter.drawLine(QPointF(x, y + 4), QPointF(x + 5.6, y + 4));
+            painter.drawLine(QPointF(x + 2.8, y), QPointF(x + 2.8, y + 8));
+        }
+    Fill(painter);
+    for (const QPointF& finger : fingers)
+        painter.drawEllipse(finger, 1.9, 1.9);
+}
+
 void Paint(QPainter& painter, Icon icon) {
     switch (icon) {
     case Icon::Find:
@@ -233,6 +252,8 @@ void Paint(QPainter& painter, Icon icon) {
         PaintSheet(painter, {4.5, 3, 15, 18});
         Stroke(painter, Colours::selection);
         return Strokes(painter, {{8, 9, 12, 9}, {8, 13, 16, 13}, {8, 17, 16, 17}});
+    case Icon::Voicings:
+        return PaintVoicings(painter);
     case Icon::Settings:
         return PaintSettings(painter);
     case Icon::Help:

@@ -13,6 +13,7 @@ enum class Icon {
     LayFingers,
     ReadFingers,
     Diagrams,
+    Voicings,
     Settings,
     Help,
     Listen,

@@ -29,6 +29,7 @@ struct RingsView {
 struct FretboardView {
     FretboardLayout layout;
     std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
+    std::array<int, stringCount> fingers{};            // That stop the rows; 0 where none is known.
     std::array<bool, stringCount> muted{};
     std::optional<Barre> barre;
     RingsView rings;

@@ -136,6 +136,29 @@ void PaintFinger(QPainter& painter, const QRectF& disc) {
     painter.drawEllipse(disc);
 }
 
+// Which finger it is, at the right of the centre, which keeps its colour.
+void PaintFingerNumber(QPainter& painter, QPointF centre, int finger) {
+    if (finger == 0)
+        return;
+    constexpr QRectF beside(45, -75, 78, 150);
+    QFont font = painter.font();
+    font.setPixelSize(112);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Colours::onWood);
+    painter.drawText(beside.translated(centre), Qt::AlignCenter, QString::number(finger));
+}
+
+// The bar has its number once, in its lowest row that no mark of its own hides.
+void PaintBarreNumber(QPainter& painter, const FretboardView& view) {
+    for (int row = 0; row <= view.barre->lastRow; ++row) {
+        const auto index = static_cast<std::size_t>(row);
+        if (!view.marks[index] && view.fingers[index] > 0)
+            return PaintFingerNumber(painter, view.layout.MarkCentre(row, view.barre->fret),
+                                     view.fingers[index]);
+    }
+}
+
 // Where the next click would set a finger, and the note that it would give.
 void PaintPointed(QPainter& painter, const QRectF& disc, const QString& note) {
     painter.setPen(QPen(Colours::onWoodRing, 20));
@@ -183,8 +206,13 @@ void PaintMarks(QPainter& painter, const FretboardView& view) {
     if (view.barre)
         PaintBarre(painter, view.layout.BarreRect(*view.barre));
     for (int row = 0; row < stringCount; ++row)
-        if (const auto fret = view.marks[static_cast<std::size_t>(row)])
+        if (const auto fret = view.marks[static_cast<std::size_t>(row)]) {
             PaintFinger(painter, view.layout.MarkRect(row, *fret));
+            PaintFingerNumber(painter, view.layout.MarkCentre(row, *fret),
+                              view.fingers[static_cast<std::size_t>(row)]);
+        }
+    if (view.barre)
+        PaintBarreNumber(painter, view);
     if (!view.pointed || view.pointedNote.isEmpty())
         return;
     const auto [row, fret] = *view.pointed;

@@ -9,10 +9,11 @@
 #include "diagrams/frmdiags.h"
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
-#include "settings/frmsettings.h"
 #include "program/stopkey.h"
+#include "settings/frmsettings.h"
 #include "sound/eventclock.h"
 #include "sound/midiapi.h"
+#include "voicings/frmvoicings.h"
 
 #include <QMessageBox>
 #include <QShortcut>
@@ -95,6 +96,9 @@ void StartUp::ConnectWindows() {
     });
     Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
     Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
+    Handle(m_window.get(), &frmMain::VoicingsAsked, m_window.get(), [this] { OpenVoicings(); });
+    Handle(m_window.get(), &frmMain::StateShown, m_window.get(), [this] { ShowVoicings(); });
+    Handle(m_window.get(), &frmMain::AddToSheetAsked, m_window.get(), [this] { AddToSheet(); });
     m_window->SetMayEnd([this] {
         bool mayEnd = !m_diagrams; // What saving the sheet reports keeps the program running.
         Application::Guard([&] { mayEnd = mayEnd || m_diagrams->MayEnd(); });
@@ -129,7 +133,7 @@ void StartUp::ShowSettings() {
         m_window->ShowNotice(*dialog.Unsaved());
 }
 
-void StartUp::ShowDiagrams() {
+frmDiags& StartUp::Sheet() {
     if (!m_diagrams) {
         m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
             BoardFingering board;
@@ -141,8 +145,38 @@ void StartUp::ShowDiagrams() {
         });
         GiveHelp(*m_diagrams);
     }
+    return *m_diagrams;
+}
+
+void StartUp::ShowDiagrams() {
+    frmDiags& sheet = Sheet();
     const auto onScreen = [](const QWidget* control) {
         return QRect(control->mapToGlobal(QPoint()), control->size());
     };
-    m_diagrams->OpenBeside(onScreen(m_window->Frame1) | onScreen(m_window->panel->picStrings));
+    sheet.OpenBeside(onScreen(m_window->Frame1) | onScreen(m_window->panel->picStrings));
+}
+
+void StartUp::AddToSheet() {
+    Sheet().cmdAdd_Click();
+    m_window->ShowNotice(
+        {QStringLiteral("Добавлено в список схем."), QStringLiteral("Added to the sheet.")});
+}
+
+void StartUp::OpenVoicings() {
+    if (!m_voicings) {
+        m_voicings = std::make_unique<frmVoicings>(m_state);
+        m_window->TakeKeysOf(m_voicings.get());
+        Handle(m_voicings.get(), &frmVoicings::LayAsked, m_window.get(), &frmMain::LayShape);
+        Handle(m_voicings.get(), &frmVoicings::StrumAsked, m_window.get(), &frmMain::LayAndStrum);
+        Handle(m_voicings.get(), &frmVoicings::AddAsked, m_window.get(), &frmMain::LayAndAdd);
+    }
+    m_voicings->show();
+    ShowVoicings();
+    m_voicings->raise();
+    m_voicings->activateWindow();
+}
+
+void StartUp::ShowVoicings() {
+    if (m_voicings && m_voicings->isVisible())
+        m_voicings->ShowState(m_window->Playing(), m_window->Found(), m_workbench->NeckShape());
 }

@@ -13,6 +13,7 @@ class HelpOpener;
 class frmDiags;
 class StopKey;
 class frmSplash;
+class frmVoicings;
 
 class StartUp {
 public:
@@ -36,7 +37,11 @@ private:
     void ConnectWindows();
     void GiveHelp(QWidget& window); // By F1, as in the main window.
     void ShowSettings();
+    frmDiags& Sheet();
     void ShowDiagrams();
+    void AddToSheet();
+    void OpenVoicings();
+    void ShowVoicings();
 
     Application& m_application;
     AppState m_state;
@@ -45,7 +50,8 @@ private:
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
     std::unique_ptr<HelpOpener> m_help;
-    std::unique_ptr<frmDiags> m_diagrams; // One sheet for the whole run.
+    std::unique_ptr<frmDiags> m_diagrams;    // One sheet for the whole run.
+    std::unique_ptr<frmVoicings> m_voicings; // Keeps its filters for the whole run.
     std::unique_ptr<frmSplash> m_splash;
     std::unique_ptr<StopKey> m_stopKey;
 };

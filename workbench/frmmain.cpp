@@ -31,6 +31,7 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ConnectChoose();
     ConnectSee();
     ConnectNames();
+    ConnectVoicings();
     ConnectPoint();
     ConnectTry();
     ConnectHear();
@@ -120,14 +121,19 @@ void frmMain::OpenAtBestSize() {
     constexpr double step = 0.5;
     constexpr double largest = 3; // Beyond, the lists beside the pictures look lost.
     const QSize room = screen()->availableGeometry().size() * share;
+    GiveStripItsRoom();
+    // The strip does not count: the neck is as large as without it.
+    const QSize strip(0,
+                      lstVoicings->isHidden() ? 0 : lstVoicings->sizeHint().height() + layoutGap);
     const QSize around = layout()->totalSizeHint() - panel->sizeHint();
     const auto windowAt = [&](double scale) {
         return (around + InstrumentPanel::SizeAt(scale)).expandedTo(layout()->totalMinimumSize());
     };
     double scale = 1;
-    while (scale < largest && QRect({}, room).contains(QRect({}, windowAt(scale + step))))
+    while (scale < largest && QRect({}, room).contains(QRect({}, windowAt(scale + step) - strip)))
         scale += step;
-    resize(windowAt(scale).boundedTo(screen()->availableGeometry().size()));
+    const QSize grown(0, static_cast<int>(strip.height() * (scale - 1)));
+    resize((windowAt(scale) + grown).boundedTo(screen()->availableGeometry().size()));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -71,6 +71,18 @@ public:
 
     Workbench& State() { return m_workbench; }
 
+    // The chord that the marked keys ask for, and every way to play it.
+    const ChordToPlay& Playing() const { return m_playing; }
+    const Voicings& Found() const { return m_found; }
+
+    // The command keys, but for the plain arrows, work in that window as in this one.
+    void TakeKeysOf(const QWidget* window) { m_beside = window; }
+
+    // Commands of the lists of diagrams, here and in frmVoicings.
+    void LayShape(const Shape& shape);
+    void LayAndStrum(const Shape& shape);
+    void LayAndAdd(const Shape& shape);
+
     // Choose.
     void lstBase_Click(int row);
     void lstType_Click(int row);
@@ -83,6 +95,9 @@ public:
     void cmdFindChord_Click();
     void lblSounds_Click(int name);
     void cmdRings_Click();
+    void lstVoicings_Click(int row);
+    void lstVoicings_DblClick(int row);
+    void cmdVoicings_Click();
 
     // Point at the pictures and the labels around them. Places are in twips.
     void picStrings_MouseDown(Qt::MouseButton button, QPointF place);
@@ -127,9 +142,12 @@ Q_SIGNALS:
     void HelpAsked(bool modal);
     void SettingsAsked();
     void DiagramsAsked();
+    void VoicingsAsked();
+    void AddToSheetAsked();
 
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -139,6 +157,7 @@ private:
     void ConnectChoose();
     void ConnectSee();
     void ConnectNames();
+    void ConnectVoicings();
     void ConnectPoint();
     void ConnectTry();
     void ConnectHear();
@@ -156,6 +175,9 @@ private:
     void ShowLabels();
     void ShowNames();
     void ShowRows();
+    void ShowVoicings();
+    void StepVoicing(int step);
+    void GiveStripItsRoom();
     void ShowHint();
     QString Hint();
     QString WithHelp(const QString& hint) const;
@@ -188,6 +210,10 @@ private:
     std::vector<PlayersName> m_sounding;
     Playback m_playback;
     std::function<bool()> m_mayEnd;
+    const QWidget* m_beside = nullptr;
+    ChordToPlay m_playing;
+    Voicings m_found;
+    Tongue m_foundIn = Tongue::Russian;
     FretboardCommands m_fretboardCommands;
     KeyboardCommands m_keyboardCommands;
 

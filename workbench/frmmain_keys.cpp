@@ -47,7 +47,15 @@ void ClosePopups() {
 // For every window, as open lists and menus are windows of their own.
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget == nullptr || OwnerOf(widget->window()) != this)
+    const QWidget* owner = widget == nullptr ? nullptr : OwnerOf(widget->window());
+    if (owner != nullptr && owner == m_beside && event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const int shift = ModifierMask(press->modifiers());
+        const bool plainArrow = IsArrow(press->key()) && shift == none;
+        return !plainArrow && FindCommand(press->key(), shift) != nullptr &&
+               KeyPressed(*press, IsPopup(widget->window()));
+    }
+    if (owner != this)
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
         return KeyPressed(*static_cast<QKeyEvent*>(event), IsPopup(widget->window()));
@@ -95,10 +103,13 @@ std::span<const KeyCommand> frmMain::KeyTable() {
         Command{Qt::Key_F8, any, [](frmMain& window) { window.Command1_Click(); }},
         Command{Qt::Key_F9, any, [](frmMain& window) { window.Command2_Click(); }},
         Command{Qt::Key_F10, any, [](frmMain& window) { Q_EMIT window.SettingsAsked(); }},
+        Command{Qt::Key_F11, any, [](frmMain& window) { window.cmdVoicings_Click(); }},
         Command{Qt::Key_F12, any, [](frmMain& window) { window.cmdRings_Click(); }},
         Command{Qt::Key_F, ctrlKey, [](frmMain& window) { window.GoToFind(); }},
         Command{Qt::Key_Z, ctrlKey, [](frmMain& window) { window.Undo(); }},
         Command{Qt::Key_Z, ctrlKey | shiftKey, [](frmMain& window) { window.Redo(); }},
+        Command{Qt::Key_PageDown, ctrlKey, [](frmMain& window) { window.StepVoicing(1); }},
+        Command{Qt::Key_PageUp, ctrlKey, [](frmMain& window) { window.StepVoicing(-1); }},
         Command{Qt::Key_Down, ctrlKey, [](frmMain& window) { window.StepRoot(1); }},
         Command{Qt::Key_Up, ctrlKey, [](frmMain& window) { window.StepRoot(-1); }},
         Command{Qt::Key_Down, altKey, [](frmMain& window) { window.StepType(1); }},

@@ -40,6 +40,7 @@ void frmMain::ShowState() {
     ShowLabels();
     ShowNames();
     ShowRows();
+    ShowVoicings();
     ShowHint();
     panel->picStrings->TellParts();
     panel->picKeyboard->TellParts();

@@ -38,6 +38,10 @@ constexpr std::array texts{
          u"Keyboard: click to mark a note, right click to clear all marks"),
     Ours(u"picKeyboard", Description, u"+ и -: клавиша; PgUp и PgDn: октава; пробел: отметить",
          u"+ and -: key; Page Up and Page Down: octave; Space: mark"),
+    Ours(u"lstVoicings", Hint, u"Аппликатуры аккорда (Ctrl+PgDn, Ctrl+PgUp)",
+         u"Ways to play the chord (Ctrl+Page Down, Ctrl+Page Up)"),
+    Ours(u"cmdVoicings", Hint, u"Все аппликатуры аккорда (F11)",
+         u"Every way to play the chord (F11)"),
     OfFile(u"Label2", Caption, 20, u"Нажаты клавиши:"), // The key serves twice.
     OfFile(u"Label7", Caption, 23, u"Недостающие звуки:"),
 

@@ -13,6 +13,9 @@ SeeGroup::SeeGroup(QWidget* window)
       lblSounds(new ChoiceLabel(QStringLiteral("lblSounds"), window)),
       cmdRings(NewPictureButton(u"cmdRings", Icon::Rings, window)),
       panel(new InstrumentPanel(window)),
+      lstVoicings(new VoicingList(QStringLiteral("lstVoicings"), VoicingList::Flow::Strip, window)),
+      lblVoicings(NewLabel(u"lblVoicings", window)),
+      cmdVoicings(NewPictureButton(u"cmdVoicings", Icon::Voicings, window)),
       Label2(NewLabel(u"Label2", window)),
       lblKeys(NewLabel(u"lblKeys", window)),
       Label7(NewLabel(u"Label7", window)),
@@ -20,6 +23,7 @@ SeeGroup::SeeGroup(QWidget* window)
     seeColumn->addLayout(ChordLine(window));
     seeColumn->addWidget(lblSounds);
     seeColumn->addWidget(panel, 1);
+    seeColumn->addLayout(VoicingLine());
     seeColumn->addLayout(NoteLines());
 }
 
@@ -44,6 +48,17 @@ QLayout* SeeGroup::ChordLine(const QWidget* window) {
     bold.setBold(true);
     lblSounds->setFont(bold);
     return line;
+}
+
+QLayout* SeeGroup::VoicingLine() {
+    lstVoicings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto* grid = Spaced(new QGridLayout, 0);
+    grid->setVerticalSpacing(layoutGap / 4);
+    grid->addWidget(lstVoicings, 0, 0);
+    grid->addWidget(cmdVoicings, 0, 1, Qt::AlignTop);
+    grid->addWidget(lblVoicings, 1, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    return grid;
 }
 
 QLayout* SeeGroup::NoteLines() {

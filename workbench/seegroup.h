@@ -4,6 +4,7 @@
 #include "controls/choicelabel.h"
 #include "controls/goldbutton.h"
 #include "pictures/instrumentpanel.h"
+#include "pictures/voicinglist.h"
 
 #include <QLabel>
 
@@ -20,6 +21,9 @@ struct SeeGroup {
     ChoiceLabel* lblSounds;
     GoldButton* cmdRings;
     InstrumentPanel* panel;
+    VoicingList* lstVoicings;
+    TextLabel* lblVoicings;
+    GoldButton* cmdVoicings;
     TextLabel* Label2;
     TextLabel* lblKeys;
     TextLabel* Label7;
@@ -27,5 +31,6 @@ struct SeeGroup {
 
 private:
     QLayout* ChordLine(const QWidget* window);
+    QLayout* VoicingLine();
     QLayout* NoteLines();
 };

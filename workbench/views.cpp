@@ -1,5 +1,7 @@
 #include "workbench/views.h"
 
+#include "music/fingernumbers.h"
+
 namespace {
 
 // The root is the chosen one, or the lowest key where that is not marked.
@@ -30,9 +32,12 @@ FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state)
     view.thinStringAtBottom = state.ThinStringAtBottom;
     if (workbench.RingsShown())
         view.rings = RingsOf(workbench, state);
+    const Shape held = WithFingers(workbench.NeckShape());
     for (int row = 0; row < stringCount; ++row) {
         view.marks[static_cast<std::size_t>(row)] = workbench.Row(row).mark;
         view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;
+        view.fingers[static_cast<std::size_t>(row)] =
+            held.Finger(StringOfRow(row, state.ThinStringAtBottom));
     }
     return view;
 }

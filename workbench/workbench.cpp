@@ -151,6 +151,8 @@ void Workbench::MoveBarre(int frets) {
 
 void Workbench::ToggleMute(int row) {
     At(row).enabled = !At(row).enabled;
+    if (m_ownMutes)
+        (*m_ownMutes)[static_cast<std::size_t>(row)] = !At(row).enabled;
 }
 
 void Workbench::ToggleKey(int key) {
@@ -169,6 +171,7 @@ void Workbench::StringsChanged() {
 
 void Workbench::ClearFingering() {
     m_missing = {};
+    TakeBackMutes();
     for (StringRow& row : m_rows)
         row.mark.reset();
     const auto barre = m_barre ? BarreOfLists() : std::nullopt;

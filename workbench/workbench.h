@@ -5,6 +5,7 @@
 #include "music/fingering.h"
 #include "music/pianokeys.h"
 #include "music/shape.h"
+#include "music/voicingchoice.h"
 #include "sound/playback.h"
 
 #include <optional>
@@ -21,6 +22,15 @@ struct StringRow {
 };
 
 constexpr int barreFrets = 15;
+
+// What the marked keys ask of the strings: while they are the chosen chord's, in whatever octave,
+// that chord; otherwise their notes over the lowest one, without a name.
+struct ChordToPlay {
+    ChordOnStrings chord;
+    QString name;
+
+    bool operator==(const ChordToPlay&) const = default;
+};
 
 class Workbench {
 public:
@@ -71,6 +81,11 @@ public:
     // The rings around the marked keys' notes on the neck. A scale shows them, a chord hides them.
     void SwitchRings() { m_ringsShown = !m_ringsShown; }
 
+    // The neck as the shape has it: marks, mutes and, where the neck's bar can hold it, the barre
+    // with its lists. With the next automatic fingering or clearing the mutes are again those
+    // that the user had set.
+    void LayShape(const Shape& shape);
+
     void ToggleKey(int key);
     void ClearKeyMarks();
 
@@ -87,6 +102,8 @@ public:
     // What the left hand does: each string as it sounds, and the barre over the strings that it
     // spans. Which finger holds which string is not known.
     Shape NeckShape() const;
+
+    ChordToPlay ToPlay() const;
 
     // The note of a row stopped at a fret; empty where the open note is no note.
     std::optional<PitchClass> NoteAt(int row, int fret) const;
@@ -119,12 +136,15 @@ private:
     void SetNotes(const RowNotes& notes);
     RowNotes Notes() const;
     std::optional<Barre> BarreOfLists() const;
+    std::optional<Barre> BarreFor(const Shape& shape) const;
+    void TakeBackMutes();
     StringRow& At(int row);
 
     const AppState* m_state;
     PianoKeys m_keys;
     std::array<StringRow, stringCount> m_rows;
-    std::optional<Barre> m_barre; // As it was when it was switched on.
+    std::optional<Barre> m_barre;                            // As it was when it was switched on.
+    std::optional<std::array<bool, stringCount>> m_ownMutes; // The user's, under a laid shape.
 
     int m_rootRow = -1;
     QString m_rootName;

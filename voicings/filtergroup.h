@@ -1,0 +1,49 @@
+// The controls that say which voicings are wanted, and in which order.
+#pragma once
+
+#include "controls/dropdown.h"
+#include "controls/goldbutton.h"
+#include "controls/textlabel.h"
+#include "core/phrase.h"
+#include "music/voicingchoice.h"
+
+#include <QCheckBox>
+
+class QGridLayout;
+
+struct FilterGroup {
+    // Makes the controls as the window's children, which lets everything pass.
+    explicit FilterGroup(QWidget* window);
+
+    QGridLayout* filters; // For the window to place.
+    TextLabel* lblFret;
+    DropDown* lstFromFret;
+    DropDown* lstToFret;
+    TextLabel* lblOpenStrings;
+    DropDown* lstOpenStrings;
+    TextLabel* lblFingers;
+    DropDown* lstFingers;
+    TextLabel* lblBass;
+    DropDown* lstBass;
+    TextLabel* lblStrings;
+    std::array<QCheckBox*, stringCount> chkString; // Of string 1 first; half checked: either.
+    QCheckBox* chkNoBarre;
+    QCheckBox* chkComplete;
+    TextLabel* lblOrder;
+    DropDown* lstOrder;
+    GoldButton* cmdAll;
+
+    VoicingFilter Filter() const;
+    VoicingOrder Order() const { return static_cast<VoicingOrder>(lstOrder->currentIndex()); }
+
+    // The filters as at first, without a change told for each.
+    void LetAllPass();
+
+    // Texts in the language; what is chosen stays.
+    void ShowTexts(Tongue tongue);
+
+private:
+    std::array<DropDown*, 6> Lists() const {
+        return {lstFromFret, lstToFret, lstOpenStrings, lstFingers, lstBass, lstOrder};
+    }
+};

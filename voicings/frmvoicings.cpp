@@ -1,0 +1,98 @@
+#include "voicings/frmvoicings.h"
+
+#include "controls/handle.h"
+#include "controls/newcontrols.h"
+#include "pictures/shapewords.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+frmVoicings::frmVoicings(const AppState& state)
+    : FilterGroup(this),
+      lblVoicings(NewLabel(u"lblVoicings", this)),
+      lstVoicings(new VoicingList(QStringLiteral("lstVoicings"), VoicingList::Flow::Grid, this)),
+      m_state(state) {
+    setObjectName(QStringLiteral("frmVoicings"));
+    auto* window = Spaced(new QVBoxLayout(this), layoutGap + layoutGap / 2);
+    window->addLayout(filters);
+    window->addWidget(lblVoicings);
+    window->addWidget(lstVoicings, 1);
+
+    for (DropDown* list : {lstFromFret, lstToFret, lstOpenStrings, lstFingers, lstBass, lstOrder})
+        Handle(list, &DropDown::RowChosen, this, &frmVoicings::Choose);
+    for (QCheckBox* box : {chkNoBarre, chkComplete})
+        Handle(box, &QCheckBox::stateChanged, this, &frmVoicings::Choose);
+    for (QCheckBox* box : chkString)
+        Handle(box, &QCheckBox::stateChanged, this, &frmVoicings::Choose);
+    Handle(cmdAll, &GoldButton::Click, this, &frmVoicings::cmdAll_Click);
+    Handle(lstVoicings, &VoicingList::LayAsked, this,
+           [this](int row) { Ask(&frmVoicings::LayAsked, row); });
+    Handle(lstVoicings, &VoicingList::StrumAsked, this,
+           [this](int row) { Ask(&frmVoicings::StrumAsked, row); });
+    Handle(lstVoicings, &VoicingList::AddAsked, this,
+           [this](int row) { Ask(&frmVoicings::AddAsked, row); });
+    lstVoicings->Rows().SetRemark([this](const Shape& shape) {
+        return Order() == VoicingOrder::Movement
+                   ? MovementInWords(MovementBetween(m_neck, shape), m_state.InterfaceTongue())
+                   : QString();
+    });
+    constexpr double cellScale = 1.25;
+    lstVoicings->SetScale(cellScale);
+    lstVoicings->setFocus();
+}
+
+void frmVoicings::ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck) {
+    const Tongue tongue = m_state.InterfaceTongue();
+    const Shape held = WithFingers(neck);
+    const bool moved = held != m_neck && !m_asking && Order() == VoicingOrder::Movement;
+    const bool changed = playing != m_playing || tongue != m_tongue;
+    if (tongue != m_tongue) {
+        m_tongue = tongue;
+        setWindowTitle(tongue == Tongue::Russian ? QStringLiteral("Аппликатуры")
+                                                 : QStringLiteral("Every way to play it"));
+        lstVoicings->SetTongue(tongue);
+        lstVoicings->setAccessibleName(windowTitle());
+        ShowTexts(tongue);
+    }
+    if (changed) {
+        m_playing = playing;
+        m_found = found;
+    }
+    if (!m_asking)
+        m_neck = held;
+    lstVoicings->SetLeftHanded(m_state.LeftHanded);
+    if (changed || moved)
+        Choose();
+    const int row = lstVoicings->Rows().RowOf(neck);
+    lstVoicings->SetCurrentRow(row);
+    if (!changed)
+        lstVoicings->BringIntoView(row);
+}
+
+void frmVoicings::Choose() {
+    const Tongue tongue = m_state.InterfaceTongue();
+    auto chosen = ChooseVoicings(m_found.shapes, m_playing.chord, Filter(), Order(), m_neck);
+    const auto count = static_cast<int>(chosen.size());
+    lstVoicings->Rows().Show(std::move(chosen), m_playing.name, tongue);
+    lblVoicings->setText(VoicingsInWords(count, m_found, m_playing.chord, tongue));
+    lstVoicings->SetCurrentRow(lstVoicings->Rows().RowOf(m_neck));
+}
+
+void frmVoicings::cmdAll_Click() {
+    LetAllPass();
+    Choose();
+}
+
+void frmVoicings::Ask(void (frmVoicings::*asked)(const Shape&), int row) {
+    const QScopedValueRollback asking(m_asking, true);
+    Q_EMIT(this->*asked)(lstVoicings->Rows().ShapeAt(row));
+}
+
+void frmVoicings::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}

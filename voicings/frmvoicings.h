@@ -1,0 +1,44 @@
+// Every way to play the chord, in a window that stays open beside the main window.
+#pragma once
+
+#include "controls/textlabel.h"
+#include "pictures/voicinglist.h"
+#include "voicings/filtergroup.h"
+#include "workbench/workbench.h"
+
+#include <QWidget>
+
+class frmVoicings : public QWidget, public FilterGroup {
+    Q_OBJECT
+
+public:
+    explicit frmVoicings(const AppState& state);
+
+    TextLabel* lblVoicings;
+    VoicingList* lstVoicings;
+
+    // The chord, every way to play it, and what the hand holds now.
+    void ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck);
+
+Q_SIGNALS:
+    void LayAsked(const Shape& shape);
+    void StrumAsked(const Shape& shape); // Lays it and strums.
+    void AddAsked(const Shape& shape);   // Lays it and adds it to the sheet.
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Choose();
+    void cmdAll_Click();
+
+    // Runs it without letting the rows change their order under the pointer.
+    void Ask(void (frmVoicings::*asked)(const Shape&), int row);
+
+    const AppState& m_state;
+    ChordToPlay m_playing;
+    Voicings m_found;
+    Shape m_neck; // From which the hand moves.
+    bool m_asking = false;
+    std::optional<Tongue> m_tongue;
+};
