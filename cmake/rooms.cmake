@@ -40,6 +40,6 @@ function(tonvik_test name)
     target_link_libraries(${name} PRIVATE ${TEST_LINK} Qt6::Test tonvik_flags)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;XDG_STATE_HOME=${CMAKE_CURRENT_BINARY_DIR}/${name}_state"
         TIMEOUT 300)
 endfunction()
