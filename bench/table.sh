@@ -95,6 +95,8 @@ settings opened with 36 / 10,000 tunings|1xOpenSettings/36 1xOpenSettings/10000|
 help opened at the English manual|1xOpenHelp|ms|50
 sheet of 50,000 bytes opened|1xOpenLongestSheet|ms|50
 1,000 codes written|1xWriteThousandCodes|ms|50
+pages of 100 diagrams shown after a key|1xPreviewAfterAKey|ms|16
+1,000 diagrams as PDF|1xPdfOfThousandDiagrams|ms|1000
 note asked for, median / longest of 1,000 / first of a session (elapsed)|Call LongestCall FirstCall|ms|0.1 / 2 / 2
 from a note asked for to its first sample that is heard (samples)|SilentSamples||512
 first note of a session begun, device and sound font opened (elapsed)|FirstNote|ms|200

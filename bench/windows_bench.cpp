@@ -1,7 +1,10 @@
 // Opening the settings dialog and the help, and the sheet's long texts.
 #include "controls/application.h"
 #include "diagrams/frmdiags.h"
+#include "diagrams/printlibrary.h"
+#include "diagrams/sheetexport.h"
 #include "diagrams/sheetfile.h"
+#include "diagrams/sheetpainting.h"
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/recordingsound.h"
@@ -120,6 +123,34 @@ void WriteThousandCodes(benchmark::State& state) {
     }
 }
 BENCHMARK(WriteThousandCodes)->Unit(benchmark::kMillisecond);
+
+// A hundred codes in the text, and one more letter before them.
+void PreviewAfterAKey(benchmark::State& state) {
+    AppState shared;
+    frmDiags sheet(shared, [] { return BoardFingering{}; });
+    sheet.resize(1200, 800);
+    sheet.show();
+    sheet.txtMain->setPlainText(
+        QStringLiteral("Am - 012200 F - 112331 Bm - Б2/001220 C - 010230 ").repeated(25));
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        sheet.txtMain->insertPlainText(QStringLiteral("x"));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(PreviewAfterAKey)->Unit(benchmark::kMillisecond);
+
+void PdfOfThousandDiagrams(benchmark::State& state) {
+    const QString text =
+        QStringLiteral("Am - 012200 F - 112331 Bm - Б2/001220 C - 010230 ").repeated(250);
+    const Printing& printing = LoadPrinting(QStringLiteral(TONVIK_PRINT_FOLDER));
+    const QSizeF paper = PaperOfLocale();
+    for (auto _ : state) {
+        const auto pages = LayOutSheet(ReadSheetText(text, {}), {paper, false, FontWidths()});
+        benchmark::DoNotOptimize(printing.Pdf(Painted(pages, paper), QString()));
+    }
+}
+BENCHMARK(PdfOfThousandDiagrams)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

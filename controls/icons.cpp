@@ -219,6 +219,22 @@ void PaintVoicings(QPainter& painter) {
         painter.drawEllipse(finger, 1.9, 1.9);
 }
 
+void PaintSideArrow(QPainter& painter, QPointF from, QPointF to) {
+    Stroke(painter, Colours::selection);
+    painter.drawLine(from, to);
+    const double back = to.x() > from.x() ? -2.8 : 2.8;
+    Strokes(painter, {QLineF(to, to + QPointF(back, -2.6)), QLineF(to, to + QPointF(back, 2.6))});
+}
+
+// A printer with a sheet coming out of it.
+void PaintPrinter(QPainter& painter) {
+    Stroke(painter);
+    Strokes(painter, {{7, 8.5, 7, 3}, {7, 3, 17, 3}, {17, 3, 17, 8.5}});
+    painter.drawRoundedRect(QRectF(3, 8.5, 18, 8.5), 1.5, 1.5);
+    Stroke(painter, Colours::selection);
+    painter.drawRect(QRectF(7, 14, 10, 7));
+}
+
 void Paint(QPainter& painter, Icon icon) {
     switch (icon) {
     case Icon::Find:
@@ -284,6 +300,14 @@ void Paint(QPainter& painter, Icon icon) {
         return PaintSave(painter);
     case Icon::Dashes:
         return PaintDashes(painter);
+    case Icon::Import:
+        PaintSheet(painter, {3.5, 3, 12, 18});
+        return PaintSideArrow(painter, {22, 12}, {9, 12});
+    case Icon::Export:
+        PaintSheet(painter, {3.5, 3, 12, 18});
+        return PaintSideArrow(painter, {9.5, 12}, {22, 12});
+    case Icon::Print:
+        return PaintPrinter(painter);
     }
 }
 

@@ -27,6 +27,9 @@ enum class Icon {
     Open,
     Save,
     Dashes,
+    Import,
+    Export,
+    Print,
 };
 
 QIcon MakeIcon(Icon icon);

@@ -6,8 +6,8 @@
 #include "diagrams/sheetlines.h"
 
 #include <QSet>
-#include <QStringList>
 #include <QStringDecoder>
+#include <QStringList>
 
 namespace {
 

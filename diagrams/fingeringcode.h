@@ -1,6 +1,8 @@
 // A fingering as one line of text.
 #pragma once
 
+#include "music/shape.h"
+
 #include <QString>
 
 #include <array>
@@ -11,6 +13,7 @@ struct BoardFingering {
     QString chordName;
     std::optional<int> barreFret;
     std::array<std::optional<int>, 6> marks; // Frets of the finger marks; empty where hidden.
+    std::optional<Shape> shape{};            // The whole of it, mutes and fingers too.
 };
 
 // "Am - 011000"; with a barre, "Am - Б5/000220": its fret, and the marks counted from it.

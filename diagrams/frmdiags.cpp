@@ -20,12 +20,29 @@ frmDiags::frmDiags(AppState& state, std::function<BoardFingering()> board)
     LayOut();
     ApplyTongue();
     Connect();
+    ShowPages();
+}
+
+void frmDiags::SetShapes(std::function<std::optional<Shape>(const QString& name)> shapeOfName,
+                         std::function<Shape(const Shape& shape)> fingered) {
+    m_questions.shapeOfName = std::move(shapeOfName);
+    m_questions.fingered = std::move(fingered);
+    ShowPages();
 }
 
 void frmDiags::cmdAdd_Click() {
-    m_rows += CollectedRow{FingeringCode(m_board())};
-    lstMain->AddText(m_rows.last().text);
+    AddRow(m_board());
+}
+
+QString frmDiags::AddRow(const BoardFingering& board) {
+    m_rows += CollectedRow{FingeringCode(board)};
+    const QString& text = m_rows.last().text;
+    if (board.shape)
+        m_collected.insert(text, *board.shape);
+    lstMain->AddText(text);
     lstMain->scrollToBottom();
+    KeepSoon();
+    return text;
 }
 
 void frmDiags::cmdDel_Click() {
@@ -35,6 +52,7 @@ void frmDiags::cmdDel_Click() {
                             QStringLiteral("No row of the list of diagrams is selected.")});
     m_rows.removeAt(row);
     ShowRows();
+    KeepSoon();
 }
 
 void frmDiags::cmdClear_Click() {
@@ -46,6 +64,7 @@ void frmDiags::cmdClear_Click() {
         return;
     m_rows.clear();
     ShowRows();
+    KeepSoon();
 }
 
 void frmDiags::ShowRows() {

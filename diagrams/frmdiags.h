@@ -4,13 +4,20 @@
 #include "controls/goldbutton.h"
 #include "core/mdlmain.h"
 #include "diagrams/clicklist.h"
+#include "diagrams/exportdialog.h"
+#include "diagrams/filestamp.h"
 #include "diagrams/fingeringcode.h"
+#include "diagrams/picpage.h"
+#include "diagrams/recovery.h"
 #include "diagrams/sheettext.h"
 
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class frmDiags : public QWidget {
@@ -31,6 +38,27 @@ public:
     void cmdSave_Click();     // A run-time error when it cannot be written.
     void GoldButton2_Click(); // A run-time error for a line too long to be of use.
     void lstMain_Click(int row);
+    void cmdExport_Click(); // A run-time error when it cannot be written.
+    void cmdImport_Click(); // A run-time error when it cannot be read.
+    void cmdPrint_Click();  // A run-time error when it cannot be printed.
+    void picPage_Click(const PlacedDiagram& diagram);
+    void picPage_DblClick(const PlacedDiagram& diagram);
+    void picPage_Menu(const PlacedDiagram& diagram, QPoint screen);
+
+    // Adds a row with what stands on a neck, as cmdAdd does; gives its text.
+    QString AddRow(const BoardFingering& board);
+
+    // What lays a shape on the neck, and what knows the shape of a chord by its name.
+    void SetLay(std::function<void(const Shape& shape)> lay) { m_lay = std::move(lay); }
+    void SetShapes(std::function<std::optional<Shape>(const QString& name)> shapeOfName,
+                   std::function<Shape(const Shape& shape)> fingered);
+
+    // From now on a recovery file in this folder follows what is not saved, so many milliseconds
+    // behind it.
+    void KeepRecovery(const QString& folder, int pause = 5000);
+
+    // Asks whether to bring back what a run that was interrupted has left there, once.
+    void OfferLeft();
 
     // Whether the program may end: asks when the text was not saved, or rows were collected that
     // were never written into it. False keeps it running.
@@ -41,6 +69,7 @@ public:
     void OpenBeside(const QRect& seen);
 
     SheetText* txtMain;
+    PicPage* picPage;
     ClickList* lstMain;
     QLineEdit* Text1;
     GoldButton* cmdAdd;
@@ -53,6 +82,9 @@ public:
     GoldButton* GoldButton1;
     GoldButton* GoldButton2;
     GoldButton* cmdSave;
+    GoldButton* cmdExport;
+    GoldButton* cmdImport;
+    GoldButton* cmdPrint;
     QLabel* lblSaved; // Says that the file was saved, until the text changes.
 
 protected:
@@ -74,11 +106,19 @@ private:
     bool Save(const QString& addition = {});
     void Saved(const QString& path);
 
-    // A row of the list, and whether it was ever written into the text.
-    struct CollectedRow {
-        QString text;
-        bool written = false;
-    };
+    // Whether the file may be replaced: asks where another program has changed it meanwhile.
+    bool MayReplace(const QString& path);
+
+    void ShowPages();
+    std::vector<SheetPage> PagesOn(QSizeF paper) const;
+    SheetQuestions Questions() const;
+    QString SongTitle(const QString& otherwise) const;
+    bool MayWritePages(const QString& path, int pages);
+    void ExportPages(const ExportChoice& choice);
+    void BringBack(const SheetContents& contents);
+    void Kept();     // Brings the recovery file up to date...
+    void KeepSoon(); // ...or does so within five seconds.
+    bool MayLoseText();
 
     AppState& m_state;
     std::function<BoardFingering()> m_board;
@@ -86,4 +126,12 @@ private:
     QString m_folder;              // The last that a file dialog chose a file of.
     std::optional<QPoint> m_place; // Where the sheet was when it was closed.
     bool m_new = true;             // The text was never opened or saved.
+    FileStamp m_file;              // That the text was opened from or saved to last.
+
+    QHash<QString, Shape> m_collected; // What was on the neck when a row was collected.
+    std::function<void(const Shape& shape)> m_lay;
+    SheetQuestions m_questions;
+    QTimer m_preview;
+    std::unique_ptr<Recovery> m_recovery;
+    QTimer m_keeping;
 };

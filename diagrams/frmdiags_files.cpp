@@ -19,7 +19,7 @@ const Phrase unwrittenRows{
 } // namespace
 
 void frmDiags::GoldButton1_Click() {
-    if (HasUnsavedText() && !MayLose(unsavedText, {}))
+    if (HasUnsavedText() && !MayLoseText())
         return;
     const QString path = OpenFileDialog(this, QStringLiteral("Открыть..."),
                                         QStringLiteral("Все файлы|*.*"), m_folder);
@@ -35,7 +35,13 @@ void frmDiags::GoldButton1_Click() {
     txtMain->setPlainText(ReadSheet(path));
     txtMain->document()->setModified(false);
     m_new = false;
+    m_file = FileStamp::Of(path);
+    Kept();
     txtMain->setFocus();
+}
+
+bool frmDiags::MayLoseText() {
+    return MayLose(unsavedText, {});
 }
 
 void frmDiags::cmdSave_Click() {
@@ -45,7 +51,7 @@ void frmDiags::cmdSave_Click() {
 bool frmDiags::Save(const QString& addition) {
     const QString path = SaveFileDialog(this, QStringLiteral("Сохранить..."),
                                         QStringLiteral("Текстовый файл|*.txt"), m_folder);
-    if (path.isEmpty())
+    if (path.isEmpty() || !MayReplace(path))
         return false;
     m_folder = QFileInfo(path).absolutePath();
     WriteSheet(path, txtMain->Text() + addition);
@@ -62,6 +68,8 @@ bool frmDiags::Save(const QString& addition) {
 void frmDiags::Saved(const QString& path) {
     txtMain->document()->setModified(false);
     m_new = false;
+    m_file = FileStamp::Of(path);
+    Kept();
     lblSaved->setText(
         Phrase{QStringLiteral("Файл «%1» сохранён."), QStringLiteral("The file “%1” was saved.")}
             .In(m_state.InterfaceTongue())

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int gap = 8;
+constexpr double pagesShare = 0.48;
 
 GoldButton* Button(const QString& name, Icon icon, QWidget* parent) {
     auto* button = new GoldButton(name, parent);
@@ -37,6 +38,10 @@ void frmDiags::CreateControls() {
     GoldButton2 = Button(QStringLiteral("GoldButton2"), Icon::Dashes, this);
     Text1 = new QLineEdit(QStringLiteral("60"), this);
     Text1->setObjectName(QStringLiteral("Text1"));
+    cmdImport = Button(QStringLiteral("cmdImport"), Icon::Import, this);
+    cmdExport = Button(QStringLiteral("cmdExport"), Icon::Export, this);
+    cmdPrint = Button(QStringLiteral("cmdPrint"), Icon::Print, this);
+    picPage = new PicPage(QStringLiteral("picPage"), this);
     txtMain = new SheetText(this);
     lblSaved = new QLabel(this);
     lblSaved->setObjectName(QStringLiteral("lblSaved"));
@@ -57,19 +62,26 @@ void frmDiags::LayOut() {
     const int listWidth = x - gap - gap / 2;
     lstMain->setGeometry(gap, top, listWidth, 100);
     x += gap;
-    const int textLeft = x;
-    for (GoldButton* control : {GoldButton1, cmdSave, cmdCut, cmdCopy, cmdPast, GoldButton2})
+    picPage->move(x, top);
+    for (GoldButton* control : {GoldButton1, cmdSave, cmdImport, cmdExport, cmdPrint})
+        place(control, button.width());
+    x += gap;
+    for (GoldButton* control : {cmdCut, cmdCopy, cmdPast, GoldButton2})
         place(control, button.width());
     place(Text1, fontMetrics().averageCharWidth() * 12);
-    txtMain->setGeometry(textLeft, top, 100, 100);
+    txtMain->move(picPage->x() + 100, top);
     setMinimumSize(x + gap, top + 200);
     const int letter = QFontMetrics(txtMain->font()).horizontalAdvance(u'0');
-    resize(std::max(minimumWidth(), textLeft + letter * 72), 480);
+    resize(std::max(minimumWidth(), picPage->x() + letter * 110), 520);
 }
 
 void frmDiags::Form_Resize() {
     const double scale = PixelsPerTwip(*this);
     const auto pixels = [scale](int twips) { return qRound(twips * scale); };
+    // The pages and the text share what the list leaves.
+    const int shared = width() - picPage->x() - pixels(200) - gap;
+    picPage->resize(static_cast<int>(shared * pagesShare), height() - picPage->y() - pixels(500));
+    txtMain->move(picPage->x() + picPage->width() + gap, txtMain->y());
     txtMain->resize(width() - txtMain->x() - pixels(200), height() - txtMain->y() - pixels(500));
     lstMain->resize(lstMain->width(), height() - lstMain->y() - pixels(400));
     const int below = txtMain->y() + txtMain->height();
@@ -114,6 +126,21 @@ void frmDiags::Connect() {
     Handle(cmdSave, &GoldButton::Click, this, &frmDiags::cmdSave_Click);
     Handle(lstMain, &ClickList::Clicked, this, &frmDiags::lstMain_Click);
     Handle(txtMain, &QPlainTextEdit::textChanged, lblSaved, &QLabel::clear);
+    Handle(cmdExport, &GoldButton::Click, this, &frmDiags::cmdExport_Click);
+    Handle(cmdImport, &GoldButton::Click, this, &frmDiags::cmdImport_Click);
+    Handle(cmdPrint, &GoldButton::Click, this, &frmDiags::cmdPrint_Click);
+    Handle(picPage, &PicPage::DiagramClicked, this, &frmDiags::picPage_Click);
+    Handle(picPage, &PicPage::DiagramDoubleClicked, this, &frmDiags::picPage_DblClick);
+    Handle(picPage, &PicPage::MenuAsked, this, &frmDiags::picPage_Menu);
+    // Several changes of one command are seen together.
+    m_preview.setSingleShot(true);
+    Handle(&m_preview, &QTimer::timeout, this, &frmDiags::ShowPages);
+    Handle(txtMain, &QPlainTextEdit::textChanged, this, [this] {
+        m_preview.start(0);
+        KeepSoon();
+    });
+    Handle(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
+           &frmDiags::cmdPrint_Click);
     Handle(new QShortcut(QKeySequence::Open, this), &QShortcut::activated, this,
            &frmDiags::GoldButton1_Click);
     Handle(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
@@ -135,11 +162,18 @@ void frmDiags::ApplyTongue() {
          u"Fingerings: a click writes the row into the text");
     hint(GoldButton1, u"Открыть файл (Ctrl+O)", u"Open a file (Ctrl+O)");
     hint(cmdSave, u"Сохранить в файл (Ctrl+S)", u"Save to a file (Ctrl+S)");
+    hint(cmdImport, u"Взять текст из файла ChordPro", u"Take the text of a ChordPro file");
+    hint(cmdExport, u"Записать как PDF, SVG, PNG или ChordPro",
+         u"Write as PDF, SVG, PNG or ChordPro");
+    hint(cmdPrint, u"Печать (Ctrl+P)", u"Print (Ctrl+P)");
     hint(cmdCut, u"Вырезать", u"Cut");
     hint(cmdCopy, u"Копировать", u"Copy");
     hint(cmdPast, u"Вставить", u"Paste");
     hint(GoldButton2, u"Начертить шесть линий", u"Draw six lines");
     hint(Text1, u"Длина линий в знаках", u"Length of the lines in characters");
+    picPage->setAccessibleName(
+        Phrase{QStringLiteral("Страницы листа"), QStringLiteral("Pages of the sheet")}.In(
+            m_state.InterfaceTongue()));
     txtMain->setAccessibleName(QString::fromUtf16(
         m_state.InterfaceTongue() == Tongue::Russian ? u"Текст листа" : u"Text of the sheet"));
 }

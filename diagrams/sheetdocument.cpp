@@ -97,7 +97,8 @@ private:
     void AddCodes(const SheetLine& line) {
         DiagramRow row;
         for (const SheetCode& code : line.codes)
-            row.diagrams.push_back({code.name, ShapeInLine(code, line.text, m_questions),
+            row.diagrams.push_back({code.name,
+                                    ShapeInLine(code, line.text, m_questions),
                                     {line.start + code.place.start, code.place.length}});
         Add(row);
         const QStringView rest = line.BehindCodes();

@@ -74,14 +74,17 @@ void ExportSvg(const QString& path, const PaintedPages& pages, const QString& ti
         Write(files[page], printing.Svg(pages, page, title));
 }
 
+void WriteImage(const QString& path, const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG"))
+        bytes.clear();
+    Write(path, bytes);
+}
+
 void ExportPng(const QString& path, const std::vector<SheetPage>& pages, QSizeF paper) {
     const QStringList files = PageFiles(path, static_cast<int>(pages.size()));
-    for (std::size_t page = 0; page < pages.size(); ++page) {
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        if (!PageImage(pages[page], paper).save(&buffer, "PNG"))
-            bytes.clear();
-        Write(files[static_cast<qsizetype>(page)], bytes);
-    }
+    for (std::size_t page = 0; page < pages.size(); ++page)
+        WriteImage(files[static_cast<qsizetype>(page)], PageImage(pages[page], paper));
 }

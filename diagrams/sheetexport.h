@@ -17,6 +17,9 @@ PaintedPages Painted(const std::vector<SheetPage>& pages, QSizeF paper);
 // One page on white paper, two pixels to a point.
 QImage PageImage(const SheetPage& page, QSizeF paper);
 
+// Replaces the file by the picture as PNG; a run-time error as below.
+void WriteImage(const QString& path, const QImage& image);
+
 // The names of as many files, a page each: the path itself, then "song-2.svg", "song-3.svg".
 QStringList PageFiles(const QString& path, int pages);
 

@@ -26,8 +26,11 @@ QString ReadSheet(const QString& path) {
 void WriteSheet(const QString& path, const QString& text) {
     if (const QString outside = OutsideAnsi(text); !outside.isEmpty())
         throw RunTimeError(
-            {QStringLiteral("Файл не записан: этих знаков нет в кодовой странице: %1").arg(outside),
-             QStringLiteral("Nothing was written: the code page does not have these characters: %1")
+            {QStringLiteral("Файл не записан: этих знаков нет в кодовой странице: %1\n"
+                            "Экспорт в ChordPro их сохранит.")
+                 .arg(outside),
+             QStringLiteral("Nothing was written: the code page does not have these characters: "
+                            "%1\nThe export to ChordPro keeps them.")
                  .arg(outside)});
     QString lines = text + u'\n';
     lines.replace(u'\n', QStringLiteral("\r\n"));

@@ -18,9 +18,9 @@ std::vector<SheetLine> SheetLines(const QString& text) {
         } else if (line.directive) {
             const QString& name = line.directive->name;
             const bool opens = name == u"start_of_tab" || name == u"start_of_grid";
-            verbatimEnd = opens ? QString(name).replace(QStringLiteral("start"),
-                                                        QStringLiteral("end"))
-                                : QString();
+            verbatimEnd =
+                opens ? QString(name).replace(QStringLiteral("start"), QStringLiteral("end"))
+                      : QString();
         } else {
             line.codes = CodesOfLine(view);
             line.remark = line.codes.empty() && view.startsWith(u'#');

@@ -5,6 +5,7 @@
 #include "core/runtimeerror.h"
 #include "support/testfolder.h"
 
+#include <QProcess>
 #include <QTest>
 
 class ChordProFileTest : public QObject {
@@ -13,6 +14,8 @@ class ChordProFileTest : public QObject {
 private Q_SLOTS:
     void Songs_data();
     void Songs();
+    void AnotherReaderTakesThem_data();
+    void AnotherReaderTakesThem();
     void Encodings_data();
     void Encodings();
     void WhatIsNoText();
@@ -59,6 +62,25 @@ void ChordProFileTest::Songs() {
     QVERIFY(copy.open(QIODevice::ReadOnly));
     const QByteArray out = copy.readAll();
     QVERIFY(out == lines || out == FromAnsi(lines).toUtf8());
+}
+
+void ChordProFileTest::AnotherReaderTakesThem_data() {
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"ferryman.cho", "two-bridges.chopro", "two-short.cho"})
+        QTest::newRow(name) << QString::fromLatin1(name); // No fingers, Latin letters.
+}
+
+void ChordProFileTest::AnotherReaderTakesThem() {
+    QFETCH(const QString, name);
+    const QString written = m_folder.Path(name);
+    WriteChordProFile(written,
+                      ChordProText(ReadChordProFile(QStringLiteral(TONVIK_SONGS "/") + name), {}));
+    QProcess reader;
+    reader.start(QStringLiteral("chordii"), {written});
+    QVERIFY(reader.waitForFinished());
+    QCOMPARE(reader.exitCode(), 0);
+    QCOMPARE(reader.readAllStandardError(), QByteArray());
+    QVERIFY(reader.readAllStandardOutput().startsWith("%!PS"));
 }
 
 void ChordProFileTest::Encodings_data() {
