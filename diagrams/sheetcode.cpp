@@ -78,8 +78,9 @@ private:
 
 // What begins behind " - ": the barre and the numbers, up to a blank or the end of the line.
 std::optional<SheetCode> ReadFrets(QStringView text) {
-    constexpr qsizetype longest = 3 + 3 * stringCount; // "Б15/" and six of "-15", or less.
-    qsizetype end = text.first(std::min(text.size(), longest + 2)).indexOf(u' ');
+    // "Б15/" and six of "-15", or less.
+    constexpr qsizetype longest = 4 + qsizetype{3} * stringCount;
+    qsizetype end = text.first(std::min(text.size(), longest + 1)).indexOf(u' ');
     if (end < 0)
         end = text.size();
     QStringView frets = text.first(end);

@@ -53,6 +53,7 @@ constexpr std::array controls{
     About{u"lstWhat", Chapter::Sound},
     About{u"lstTemp", Chapter::Sound},
     About{u"cmdNewDiag", Chapter::Sheet},
+    About{u"cmdAddDiag", Chapter::Sheet},
     About{u"cmdSettings", Chapter::Settings},
 };
 

@@ -6,9 +6,9 @@
 #include "core/language.h"
 #include "core/profile.h"
 #include "core/settings.h"
-#include "diagrams/frmdiags.h"
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
+#include "program/sheetopener.h"
 #include "program/stopkey.h"
 #include "settings/frmsettings.h"
 #include "sound/eventclock.h"
@@ -95,15 +95,9 @@ void StartUp::ConnectWindows() {
             m_help->Show(QApplication::focusWidget());
     });
     Handle(m_window.get(), &frmMain::SettingsAsked, m_window.get(), [this] { ShowSettings(); });
-    Handle(m_window.get(), &frmMain::DiagramsAsked, m_window.get(), [this] { ShowDiagrams(); });
+    ConnectSheet();
     Handle(m_window.get(), &frmMain::VoicingsAsked, m_window.get(), [this] { OpenVoicings(); });
     Handle(m_window.get(), &frmMain::StateShown, m_window.get(), [this] { ShowVoicings(); });
-    Handle(m_window.get(), &frmMain::AddToSheetAsked, m_window.get(), [this] { AddToSheet(); });
-    m_window->SetMayEnd([this] {
-        bool mayEnd = !m_diagrams; // What saving the sheet reports keeps the program running.
-        Application::Guard([&] { mayEnd = mayEnd || m_diagrams->MayEnd(); });
-        return mayEnd;
-    });
     m_application.SetEnd([this] { m_window->close(); });
     m_stopKey = std::make_unique<StopKey>([this] { m_window->GoldButton3_Click(); });
 }
@@ -133,33 +127,19 @@ void StartUp::ShowSettings() {
         m_window->ShowNotice(*dialog.Unsaved());
 }
 
-frmDiags& StartUp::Sheet() {
-    if (!m_diagrams) {
-        m_diagrams = std::make_unique<frmDiags>(m_state, [this] {
-            BoardFingering board;
-            board.chordName = m_workbench->ChordName();
-            board.barreFret = m_workbench->ShownBarreFret();
-            for (int row = 0; row < stringCount; ++row)
-                board.marks[static_cast<std::size_t>(row)] = m_workbench->Row(row).mark;
-            return board;
-        });
-        GiveHelp(*m_diagrams);
-    }
-    return *m_diagrams;
-}
-
-void StartUp::ShowDiagrams() {
-    frmDiags& sheet = Sheet();
-    const auto onScreen = [](const QWidget* control) {
-        return QRect(control->mapToGlobal(QPoint()), control->size());
-    };
-    sheet.OpenBeside(onScreen(m_window->Frame1) | onScreen(m_window->panel->picStrings));
-}
-
-void StartUp::AddToSheet() {
-    Sheet().cmdAdd_Click();
-    m_window->ShowNotice(
-        {QStringLiteral("Добавлено в список схем."), QStringLiteral("Added to the sheet.")});
+void StartUp::ConnectSheet() {
+    m_sheet = std::make_unique<SheetOpener>(m_state, *m_workbench, *m_window,
+                                            [this](QWidget& sheet) { GiveHelp(sheet); });
+    frmMain* window = m_window.get();
+    Handle(window, &frmMain::DiagramsAsked, window, [this] { m_sheet->Show(); });
+    Handle(window, &frmMain::AddToSheetAsked, window, [this] { m_sheet->AddNeck(); });
+    Handle(window, &frmMain::NeckCopyAsked, window, [this] { m_sheet->CopyNeck(); });
+    Handle(window, &frmMain::NeckSaveAsked, window, [this] { m_sheet->SaveNeck(); });
+    m_window->SetMayEnd([this] {
+        bool mayEnd = false; // What saving the sheet reports keeps the program running.
+        Application::Guard([&] { mayEnd = m_sheet->MayEnd(); });
+        return mayEnd;
+    });
 }
 
 void StartUp::OpenVoicings() {

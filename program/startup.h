@@ -10,7 +10,7 @@
 
 class Application;
 class HelpOpener;
-class frmDiags;
+class SheetOpener;
 class StopKey;
 class frmSplash;
 class frmVoicings;
@@ -37,9 +37,7 @@ private:
     void ConnectWindows();
     void GiveHelp(QWidget& window); // By F1, as in the main window.
     void ShowSettings();
-    frmDiags& Sheet();
-    void ShowDiagrams();
-    void AddToSheet();
+    void ConnectSheet();
     void OpenVoicings();
     void ShowVoicings();
 
@@ -50,7 +48,7 @@ private:
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
     std::unique_ptr<HelpOpener> m_help;
-    std::unique_ptr<frmDiags> m_diagrams;    // One sheet for the whole run.
+    std::unique_ptr<SheetOpener> m_sheet;
     std::unique_ptr<frmVoicings> m_voicings; // Keeps its filters for the whole run.
     std::unique_ptr<frmSplash> m_splash;
     std::unique_ptr<StopKey> m_stopKey;

@@ -57,6 +57,9 @@ void frmMain::LayOut() {
 
 void frmMain::ConnectMore() {
     Handle(cmdNewDiag, &GoldButton::Click, this, &frmMain::DiagramsAsked);
+    Handle(cmdAddDiag, &GoldButton::Click, this, &frmMain::AddToSheetAsked);
+    cmdAddDiag->setContextMenuPolicy(Qt::CustomContextMenu);
+    Handle(cmdAddDiag, &QWidget::customContextMenuRequested, this, &frmMain::cmdAddDiag_Menu);
     Handle(cmdSettings, &GoldButton::Click, this, &frmMain::SettingsAsked);
     Handle(cmdHelp, &GoldButton::Click, this, [this] { Q_EMIT HelpAsked(true); });
 }

@@ -113,6 +113,7 @@ public:
     void Label6_MouseDown(int index, Qt::MouseButton button);
     void Label6_MouseMove(int index);
     void Label6_MouseLeave();
+    void cmdAddDiag_Menu(QPoint place);
     void Form_MouseMove();
 
     // Try.
@@ -143,7 +144,9 @@ Q_SIGNALS:
     void SettingsAsked();
     void DiagramsAsked();
     void VoicingsAsked();
-    void AddToSheetAsked();
+    void AddToSheetAsked(); // What is on the neck is to be added to the sheet...
+    void NeckCopyAsked();   // ...copied as a diagram...
+    void NeckSaveAsked();   // ...or saved as one.
 
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -110,6 +110,7 @@ std::span<const KeyCommand> frmMain::KeyTable() {
         Command{Qt::Key_Z, ctrlKey | shiftKey, [](frmMain& window) { window.Redo(); }},
         Command{Qt::Key_PageDown, ctrlKey, [](frmMain& window) { window.StepVoicing(1); }},
         Command{Qt::Key_PageUp, ctrlKey, [](frmMain& window) { window.StepVoicing(-1); }},
+        Command{Qt::Key_D, ctrlKey, [](frmMain& window) { Q_EMIT window.AddToSheetAsked(); }},
         Command{Qt::Key_Down, ctrlKey, [](frmMain& window) { window.StepRoot(1); }},
         Command{Qt::Key_Up, ctrlKey, [](frmMain& window) { window.StepRoot(-1); }},
         Command{Qt::Key_Down, altKey, [](frmMain& window) { window.StepType(1); }},

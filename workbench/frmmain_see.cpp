@@ -16,7 +16,9 @@ void frmMain::ConnectSee() {
                            .mute = [this](int row) { Label6_MouseDown(row, Qt::RightButton); },
                            .switchBarre = [this] { cmdMakeBarre_Click(); },
                            .moveBarre = [this](int fret) { lstLadBarre->SelectRow(fret - 1); },
-                           .clear = [this] { DoQuietly([&] { m_workbench.ClearFretboard(); }); }};
+                           .clear = [this] { DoQuietly([&] { m_workbench.ClearFretboard(); }); },
+                           .copyDiagram = [this] { Q_EMIT NeckCopyAsked(); },
+                           .saveDiagram = [this] { Q_EMIT NeckSaveAsked(); }};
     m_keyboardCommands = {.toggle = [this](int key) { Do([&] { m_workbench.ToggleKey(key); }); },
                           .clear = [this] { Do([&] { m_workbench.ClearKeyMarks(); }); }};
     panel->picStrings->SetParts(

@@ -86,6 +86,8 @@ constexpr std::array texts{
 
     OfFile(u"Frame5", Caption, 3, u"Дополнительно:"),
     Ours(u"cmdNewDiag", Hint, u"Диаграммы аккордов", u"Chord diagrams"),
+    Ours(u"cmdAddDiag", Hint, u"Добавить то, что на грифе, на лист диаграмм (Ctrl+D)",
+         u"Add what is on the neck to the diagram sheet (Ctrl+D)"),
     Ours(u"cmdSettings", Hint, u"Настройки (F10)", u"Settings (F10)"),
     Ours(u"cmdHelp", Hint, u"Помощь (F1)", u"Help (F1)"),
 };

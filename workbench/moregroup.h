@@ -11,6 +11,7 @@ struct MoreGroup {
 
     QGroupBox* Frame5;
     GoldButton* cmdNewDiag;
+    GoldButton* cmdAddDiag; // Adds what is on the neck to the sheet.
     GoldButton* cmdSettings;
     GoldButton* cmdHelp;
 };

@@ -76,11 +76,18 @@ PicturePart KeyPart(bool marked, Tongue tongue, const KeyboardCommands& commands
 PictureParts FretboardParts(const Workbench& workbench, const AppState& state,
                             const FretboardCommands& commands) {
     const Phrase clear{QStringLiteral("Снять всё"), QStringLiteral("Clear all")};
+    const Phrase copy{QStringLiteral("Копировать диаграмму"), QStringLiteral("Copy the diagram")};
+    const Phrase save{QStringLiteral("Сохранить диаграмму…"), QStringLiteral("Save the diagram…")};
     PictureParts board;
     for (int row = stringCount - 1; row >= 0; --row)
         board.parts.push_back(StringPart(workbench, state, commands, row));
     board.parts.push_back(BarrePart(workbench, state, commands));
-    board.actions.push_back({clear.In(state.InterfaceTongue()), [&commands] { commands.clear(); }});
+    const Tongue tongue = state.InterfaceTongue();
+    board.actions.push_back({clear.In(tongue), [&commands] { commands.clear(); }});
+    if (commands.copyDiagram)
+        board.actions.push_back({copy.In(tongue), [&commands] { commands.copyDiagram(); }});
+    if (commands.saveDiagram)
+        board.actions.push_back({save.In(tongue), [&commands] { commands.saveDiagram(); }});
     return board;
 }
 

@@ -13,6 +13,8 @@ struct FretboardCommands {
     std::function<void()> switchBarre;
     std::function<void(int fret)> moveBarre; // 1 to barreFrets.
     std::function<void()> clear;
+    std::function<void()> copyDiagram{};
+    std::function<void()> saveDiagram{};
 };
 
 struct KeyboardCommands {
