@@ -82,6 +82,7 @@ private Q_SLOTS:
         const auto table = KeysOfTable(tongue);
         QVERIFY(table.size() > 18);
         QCOMPARE(QStringList((table - manual).values()).join(u' '), QString());
+        QCOMPARE(QStringList((manual - table).values()).join(u' '), QString());
     }
 };
 
