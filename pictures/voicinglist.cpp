@@ -66,7 +66,7 @@ QSize VoicingList::sizeHint() const {
     constexpr int shownRows = 5;
     const int rows = m_flow == Flow::Grid ? shownRows : 1;
     const int bar = m_flow == Flow::Grid ? verticalScrollBar()->sizeHint().width() : 0;
-    const int frame = 2 * frameWidth();
+    const int frame = 2 * frameWidth() + 2; // The last column needs a pixel to spare.
     return {Cell().width() * shownColumns + frame + bar, Cell().height() * rows + frame};
 }
 

@@ -66,15 +66,18 @@ void frmMain::ShowVoicings() {
     lblVoicings->setText(VoicingsInWords(count, m_found, playing.chord, tongue));
 }
 
-// The diagrams grow into the room that the pictures leave, half as much again at most.
+// The diagrams grow into the room that the pictures leave, half as much again at most, while
+// eight stand beside each other.
 void frmMain::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     constexpr double largest = 1.5;
+    constexpr int besideEachOther = 8;
+    const QSizeF cell = VoicingList::smallestCell;
     const QSizeF pictures = InstrumentPanel::SizeAt(1);
-    const double room = panel->height() + lstVoicings->height() -
+    const double room = panel->height() + lstVoicings->height() - 2 * lstVoicings->frameWidth() -
                         pictures.height() * panel->width() / pictures.width();
-    lstVoicings->SetScale(
-        std::clamp(room / VoicingList::smallestCell.height() - 0.1, 1.0, largest));
+    const double width = lstVoicings->viewport()->width() / (besideEachOther * cell.width());
+    lstVoicings->SetScale(std::clamp(std::min(room / cell.height(), width), 1.0, largest));
 }
 
 // On a screen too small for it the strip goes, before the neck has to shrink.
