@@ -27,7 +27,8 @@ void ShowMenu(QScrollBar* bar, const QContextMenuEvent& event) {
     };
     const bool upright = bar->orientation() == Qt::Vertical;
     // The two ways, the one towards the smaller value first.
-    const auto addBoth = [&](QString back, QString on, QAbstractSlider::SliderAction less,
+    const auto addBoth = [&](const QString& back, const QString& on,
+                             QAbstractSlider::SliderAction less,
                              QAbstractSlider::SliderAction more) {
         if (bar->invertedAppearance())
             std::swap(less, more);

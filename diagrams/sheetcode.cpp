@@ -93,7 +93,7 @@ std::optional<SheetCode> ReadFrets(QStringView text) {
         code.barreFret = fret;
         frets = frets.sliced(slash + 1);
     }
-    if (frets.size() > 3 * stringCount)
+    if (frets.size() > qsizetype{3} * stringCount)
         return std::nullopt;
     const auto numbers = Parting(code.barreFret.has_value()).Best(frets);
     if (!numbers)

@@ -4,7 +4,7 @@
 #include "controls/focusring.h"
 #include "controls/tooltip.h"
 #include "pictures/diagrampainting.h"
-#include "pictures/voicinglist.h"
+#include "pictures/voicingmodel.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -54,8 +54,8 @@ void VoicingDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         FocusRing::Paint(*painter, QRectF(option.rect));
 }
 
-QSize VoicingDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return static_cast<const VoicingList*>(option.widget)->Cell();
+QSize VoicingDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    return m_cell;
 }
 
 bool VoicingDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,

@@ -5,7 +5,10 @@
 
 class VoicingDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    // cell: the room of a diagram.
+    VoicingDelegate(QSize cell, QObject* parent) : QStyledItemDelegate(parent), m_cell(cell) {}
+
+    void SetCell(QSize cell) { m_cell = cell; }
 
     void SetLeftHanded(bool leftHanded) { m_leftHanded = leftHanded; }
 
@@ -17,5 +20,6 @@ public:
                    const QModelIndex& index) override;
 
 private:
+    QSize m_cell;
     bool m_leftHanded = false;
 };

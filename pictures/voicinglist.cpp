@@ -16,7 +16,7 @@ VoicingList::VoicingList(const QString& name, Flow flow, QWidget* parent)
     : QListView(parent), m_flow(flow) {
     setObjectName(name);
     setModel(&m_model);
-    setItemDelegate(new VoicingDelegate(this));
+    setItemDelegate(new VoicingDelegate(smallestCell, this));
     setFlow(QListView::LeftToRight);
     setWrapping(flow == Flow::Grid);
     setResizeMode(QListView::Adjust);
@@ -35,6 +35,7 @@ void VoicingList::SetScale(double scale) {
     if (scale == m_scale)
         return;
     m_scale = scale;
+    static_cast<VoicingDelegate*>(itemDelegate())->SetCell(Cell());
     scheduleDelayedItemsLayout();
     updateGeometry();
 }

@@ -19,7 +19,8 @@ private Q_SLOTS:
 namespace {
 
 // Controls that show a state or a picture, and so have no text of their own.
-const QStringList withoutText{QStringLiteral("lblHint"), QStringLiteral("Label1")};
+const QStringList withoutText{QStringLiteral("lblHint"), QStringLiteral("Label1"),
+                              QStringLiteral("lblFound")};
 
 // The controls that a user can read or work, and that nothing says what they are for.
 QStringList Textless(const QWidget& window) {
