@@ -220,10 +220,8 @@ void frmSettings::VScroll2_Change(int index) {
 
 void frmSettings::Image1_Click(int index) {
     constexpr double seconds = 0.5;
-    m_midi.PlayMidiFile(
-        StringSoundFile(m_state.AppPath, Tag(Text1[static_cast<std::size_t>(index)]), 0));
-    m_clock.WaitUntil(m_clock.Now() + seconds);
-    m_midi.CloseMidiFile();
+    const QString number = Tag(Text1[static_cast<std::size_t>(index)]);
+    PlayForSeconds(m_midi, m_clock, StringSoundFile(m_state.AppPath, number, 0), seconds);
 }
 
 void frmSettings::cmdOK_Click() {

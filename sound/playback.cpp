@@ -7,6 +7,23 @@
 
 #include <utility>
 
+namespace {
+
+// Opening a device may take longer than anybody wants to wait for it.
+void AwaitSound(const MidiPlayer& midi, Clock& clock) {
+    constexpr double step = 0.002;
+    constexpr double longest = 0.2;
+    const double last = clock.Now() + longest;
+    for (double next = clock.Now() + step; midi.Waking() && next < last;
+         next = clock.Now() + step) {
+        clock.WaitUntil(next);
+        if (clock.Now() < next)
+            return; // The program ends.
+    }
+}
+
+} // namespace
+
 QString KeySoundFile(const QString& appPath, int key) {
     return appPath + QStringLiteral("sounds/keys/") + QString::number(key) + QStringLiteral(".mid");
 }
@@ -27,6 +44,13 @@ std::array<int, stringCount> RowsFromThickToThin(bool thinStringAtBottom) {
     return rows;
 }
 
+void PlayForSeconds(MidiPlayer& midi, Clock& clock, const QString& file, double seconds) {
+    midi.PlayMidiFile(file);
+    AwaitSound(midi, clock);
+    clock.WaitUntil(clock.Now() + seconds);
+    midi.CloseWhenSounded(seconds);
+}
+
 // The notes of one loop, each for its whole pause from when it begins to sound: what is late
 // is never made up for.
 class Playback::Beat {
@@ -35,10 +59,7 @@ public:
 
     void Play(const QString& file) {
         m_sounded = true;
-        m_playback.m_midi.PlayMidiFile(file);
-        AwaitSound();
-        Wait();
-        m_playback.m_midi.CloseWhenSounded(m_pause);
+        PlayForSeconds(m_playback.m_midi, m_playback.m_clock, file, m_pause);
     }
 
     void Wait() { m_playback.m_clock.WaitUntil(m_playback.m_clock.Now() + m_pause); }
@@ -47,16 +68,6 @@ public:
     bool Sounded() { return std::exchange(m_sounded, false); }
 
 private:
-    // Opening a device may take longer than anybody wants to wait for it.
-    void AwaitSound() {
-        constexpr double step = 0.002;
-        constexpr double longest = 0.2;
-        const double last = m_playback.m_clock.Now() + longest;
-        while (m_playback.m_midi.Waking() && m_playback.m_clock.Now() < last &&
-               !m_playback.m_abandoned)
-            m_playback.m_clock.WaitUntil(m_playback.m_clock.Now() + step);
-    }
-
     Playback& m_playback;
     double m_pause;
     bool m_sounded = false;

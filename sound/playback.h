@@ -28,6 +28,10 @@ struct PlaybackSource {
 QString KeySoundFile(const QString& appPath, int key);
 QString StringSoundFile(const QString& appPath, const QString& soundNumber, int fret);
 
+// Plays the file and returns when it has sounded for so long, from when it began; events are
+// processed meanwhile.
+void PlayForSeconds(MidiPlayer& midi, Clock& clock, const QString& file, double seconds);
+
 // The fret that a row sounds: its mark's, else the barre's, else 0.
 int SoundingFret(const RowSound& row, std::optional<int> barreFret);
 

@@ -15,37 +15,36 @@ std::atomic<bool> leftBehind = false;
 
 } // namespace
 
-// What the threads share. The lock guards everything but the synthesiser, which belongs to the
-// sound thread while no device is open, and to the device's thread while one is.
+// What the threads share. The synthesiser belongs to the sound thread while no device is open,
+// and to the device's thread while one is. Two locks, so that the device's thread meets nobody
+// but him who asks for notes, for as long as it takes to write that down.
 class SoundThread::Room {
 public:
     Room(QString appPath, std::unique_ptr<Output> output, double rest)
         : m_appPath(std::move(appPath)), m_output(std::move(output)), m_rest(rest) {}
 
     void Begin(std::vector<Beginning> files) {
+        {
+            const std::scoped_lock lock(m_requests);
+            for (Beginning& file : files)
+                m_begun.push_back(std::move(file));
+            m_waiting = true;
+        }
         const std::scoped_lock lock(m_mutex);
-        for (Beginning& file : files)
-            m_begun.push_back(std::move(file));
         m_changed.notify_all();
     }
 
     void End(Ending files) {
-        const std::scoped_lock lock(m_mutex);
+        const std::scoped_lock lock(m_requests);
         const auto waited =
             std::erase_if(m_begun, [=](const Beginning& file) { return file.id == files.id; });
+        m_waiting = !m_begun.empty();
         if (waited == 0 && m_open)
             m_ended.push_back(files);
     }
 
-    bool Waiting() const {
-        const std::scoped_lock lock(m_mutex);
-        return !m_begun.empty();
-    }
-
-    bool HoldsDevice() const {
-        const std::scoped_lock lock(m_mutex);
-        return m_open;
-    }
+    bool Waiting() const { return m_waiting; }
+    bool HoldsDevice() const { return m_open; }
 
     // The thread's work until it is told to end.
     void Run() {
@@ -72,20 +71,20 @@ public:
 
 private:
     void WaitForNotes(std::unique_lock<std::mutex>& lock) {
-        m_changed.wait(lock, [this] { return m_ending || !m_begun.empty(); });
+        m_changed.wait(lock, [this] { return m_ending || m_waiting; });
         if (m_ending)
             return;
         lock.unlock();
-        const bool open = OpenDevice();
+        if (OpenDevice())
+            m_open = true;
+        else
+            Forget(); // Silence; the next note tries again.
         lock.lock();
-        m_open = open;
-        if (!open)
-            m_begun.clear(); // Silence; the next note tries again.
     }
 
     void WatchDevice(std::unique_lock<std::mutex>& lock) {
         m_changed.wait_for(lock, 250ms, [this] { return m_ending; });
-        const bool needed = m_resting < m_rest || !m_begun.empty();
+        const bool needed = m_resting < m_rest || m_waiting;
         if (!m_ending && (!needed || m_output->Lost()))
             CloseDevice(lock);
     }
@@ -105,26 +104,34 @@ private:
         lock.unlock();
         m_output->Close();
         lock.lock();
+        const std::scoped_lock requests(m_requests);
         m_open = false;
         m_ended.clear();
     }
 
+    void Forget() {
+        const std::scoped_lock lock(m_requests);
+        m_begun.clear();
+        m_waiting = false;
+    }
+
     // On the device's thread, which must not wait for any other.
     void Render(float* left, float* right, int frames) {
-        if (const std::unique_lock lock(m_mutex, std::try_to_lock); lock)
+        if (const std::unique_lock lock(m_requests, std::try_to_lock); lock)
             TakeRequests();
         m_synthesiser->Render(left, right, frames);
         m_resting = m_synthesiser->Resting();
     }
 
     void TakeRequests() {
-        m_open = true; // Even before Open has returned: what began now can be ended.
+        m_open = true; // Even before Open has returned: what begins now can be ended.
         for (const Ending& files : m_ended)
             m_synthesiser->End(files);
         for (const Beginning& file : m_begun)
             m_synthesiser->Begin(file);
         m_ended.clear();
         m_begun.clear();
+        m_waiting = false;
     }
 
     const QString m_appPath;
@@ -132,12 +139,15 @@ private:
     const double m_rest;
     std::unique_ptr<Synthesiser> m_synthesiser;
     std::atomic<double> m_resting = 0;
+    std::atomic<bool> m_open = false;
+    std::atomic<bool> m_waiting = false; // Whether there is anything in m_begun.
 
-    mutable std::mutex m_mutex;
-    std::condition_variable m_changed;
+    std::mutex m_requests;
     std::vector<Beginning> m_begun; // For the device's thread to take...
     std::vector<Ending> m_ended;    // ...and these.
-    bool m_open = false;
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
     bool m_ending = false;
     bool m_finished = false;
 };
