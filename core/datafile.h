@@ -11,7 +11,7 @@
 bool FileExists(const QString& path);
 
 // What is larger is no file of ours.
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{256} * 1024 * 1024;
 
 // The bytes of a file, or why there are none.
 struct FileContent {

@@ -99,7 +99,7 @@ void Add(std::vector<PlayersName>& names, const PlayersName& name) {
 } // namespace
 
 QString ChordText(const NamedType& type, PitchClass root, PitchClass bass) {
-    const QString text = RootName(root, type.notes) + type.suffix;
+    QString text = RootName(root, type.notes) + type.suffix;
     if (bass == root)
         return text;
     const int interval = PitchClassOf(bass - root);

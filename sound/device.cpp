@@ -17,7 +17,7 @@ constexpr std::array drivers{""};
 } // namespace
 
 Device::~Device() {
-    Close();
+    Device::Close();
 }
 
 bool Device::Open(Render render) {

@@ -149,7 +149,7 @@ Score InSeconds(const std::vector<TimedEvent>& events, Pace pace) {
 // Sixteen channels with 128 notes and as many controllers hold no more at one moment; the
 // synthesiser would be late with all that sounds beside.
 bool CanBeMusic(const Score& score) {
-    constexpr std::size_t most = 16 * (128 + 128);
+    constexpr std::size_t most = std::size_t{16} * (128 + 128);
     constexpr double moment = 0.01;
     for (std::size_t i = most; i < score.size(); ++i)
         if (score[i].seconds - score[i - most].seconds < moment)
