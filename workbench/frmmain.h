@@ -226,6 +226,7 @@ private:
     bool m_fretLabelLit = false; // Whether that label is blue now.
     bool m_stringLabelLit = false;
     std::optional<BoardPlace> m_pointed;    // Under the pointer...
+    bool m_chordPointed = false;            // Whether the pointer is on lblChord.
     std::optional<int> m_pointedKey;        // ...and on the piano.
     const TwipPicture* m_restsOn = nullptr; // The picture on which the pointer rests.
     QString m_notice;

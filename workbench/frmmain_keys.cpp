@@ -64,8 +64,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
             RestOn(picture);
             return true;
         }
-    if (watched == lblChord && (event->type() == QEvent::Enter || event->type() == QEvent::Leave))
+    if (watched == lblChord && (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
+        m_chordPointed = event->type() == QEvent::Enter;
         ShowHint();
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -103,7 +103,7 @@ void frmMain::ShowNotice(const Phrase& notice) {
 }
 
 QString frmMain::Hint() {
-    if (lblChord->underMouse() && lblChord->IsCut())
+    if (m_chordPointed && lblChord->IsCut())
         return lblChord->text();
     const Tongue tongue = m_state.InterfaceTongue();
     const auto marked = m_workbench.Keys().Marked();
