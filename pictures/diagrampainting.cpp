@@ -53,9 +53,8 @@ void PaintGrid(QPainter& painter, const DiagramLayout& layout, const DiagramColo
     painter.setPen(colours.ink);
     painter.setFont(FontOfSize(painter, positionSize, false));
     const bool numberAtLeft = layout.PositionRect().left() < grid.left();
-    painter.drawText(layout.PositionRect(),
-                     numberAtLeft ? Qt::AlignVCenter | Qt::AlignRight
-                                  : Qt::AlignVCenter | Qt::AlignLeft,
+    const int side = numberAtLeft ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(layout.PositionRect(), side | Qt::AlignVCenter,
                      QString::number(layout.FirstFret()));
 }
 
