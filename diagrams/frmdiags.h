@@ -43,7 +43,7 @@ public:
     void cmdPrint_Click();  // A run-time error when it cannot be printed.
     void picPage_Click(const PlacedDiagram& diagram);
     void picPage_DblClick(const PlacedDiagram& diagram);
-    void picPage_Menu(const PlacedDiagram& diagram, QPoint screen);
+    void picPage_Menu(const PlacedDiagram& placed, QPoint screen);
 
     // Adds a row with what stands on a neck, as cmdAdd does; gives its text.
     QString AddRow(const BoardFingering& board);

@@ -112,6 +112,13 @@ HandMovement MovementBetween(const Shape& from, const Shape& to) {
     return movement;
 }
 
+void PutBassFirst(std::vector<Voicing>& voicings, const ChordOnStrings& chord, PitchClass bass) {
+    const int interval = (bass - chord.root + notesPerOctave) % notesPerOctave;
+    std::stable_partition(voicings.begin(), voicings.end(), [&](const Voicing& voicing) {
+        return FactsOf(voicing.frets, chord).bassInterval == interval;
+    });
+}
+
 std::vector<Voicing> ChooseVoicings(const std::vector<Voicing>& voicings,
                                     const ChordOnStrings& chord, const VoicingFilter& filter,
                                     VoicingOrder order, const Shape& neck) {

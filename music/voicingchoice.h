@@ -43,6 +43,9 @@ struct HandMovement {
 
 HandMovement MovementBetween(const Shape& from, const Shape& to);
 
+// Puts the voicings over this bass before the others; within both they keep their order.
+void PutBassFirst(std::vector<Voicing>& voicings, const ChordOnStrings& chord, PitchClass bass);
+
 // Those of the voicings that pass, in the order asked for; what is equal in it keeps its order.
 // neck: the shape that the hand holds now.
 std::vector<Voicing> ChooseVoicings(const std::vector<Voicing>& voicings,

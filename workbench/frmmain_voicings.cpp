@@ -57,6 +57,8 @@ void frmMain::ShowVoicings() {
         m_playing = playing;
         m_foundIn = tongue;
         m_found = FindVoicings(playing.chord.notes, playing.chord.root, playing.chord.tuning);
+        if (playing.bass)
+            PutBassFirst(m_found.shapes, playing.chord, *playing.bass);
         lstVoicings->Rows().Show(m_found.shapes, playing.name, tongue);
         lstVoicings->SetTongue(tongue);
     }

@@ -33,6 +33,7 @@ ChordToPlay Workbench::ToPlay() const {
     if (NotesOf(ChordKeys(*root, structure)) != chord.notes)
         return toPlay;
     chord.root = *root;
+    toPlay.bass = m_preferredBass;
     toPlay.name = m_rootName + m_state->ChordTypes.Field(ChordType::Suffix, entry);
     return toPlay;
 }

@@ -28,6 +28,7 @@ constexpr int barreFrets = 15;
 struct ChordToPlay {
     ChordOnStrings chord;
     QString name;
+    std::optional<PitchClass> bass; // Whose voicings come first.
 
     bool operator==(const ChordToPlay&) const = default;
 };

@@ -124,8 +124,12 @@ void CompleterTest::ABassIsPreferredUntilTheNextChoice() {
     Press(Qt::Key_Down);
     Press(Qt::Key_Return);
     QCOMPARE(m_main->workbench.PreferredBass(), std::optional(7));
+    const auto first = [this] { return FretsText(m_main->window.lstVoicings->Rows().ShapeAt(0)); };
+    QCOMPARE(first(), QStringLiteral("332010"));
     m_main->window.lstType->SelectRow(1);
     QVERIFY(!m_main->workbench.PreferredBass());
+    m_main->window.lstType->SelectRow(0);
+    QCOMPARE(first(), QStringLiteral("x32010"));
 }
 
 void CompleterTest::ChoosingIsOneStep() {
