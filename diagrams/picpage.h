@@ -55,7 +55,7 @@ private:
     void SetRange();
     std::vector<DiagramPlace> AllDiagrams() const;
     const PlacedDiagram& At(DiagramPlace place) const;
-    void StepTo(int step);
+    void StepTo(int index);
     const QPixmap& Painted(int page);
 
     std::vector<SheetPage> m_pages;

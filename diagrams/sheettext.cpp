@@ -37,6 +37,7 @@ void SheetText::Insert(const QString& text) {
 void SheetText::keyPressEvent(QKeyEvent* event) {
     const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
     if (tab && event->modifiers().testFlag(Qt::ControlModifier))
+        // A text box of its own keeps every Tab. NOLINTNEXTLINE(bugprone-parent-virtual-call)
         QAbstractScrollArea::focusNextPrevChild(!event->modifiers().testFlag(Qt::ShiftModifier));
     else
         QPlainTextEdit::keyPressEvent(event);
