@@ -35,6 +35,7 @@ public:
     // Built with the Russian texts and empty lists; start-up fills them. What is passed in
     // must outlive the window.
     frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock& clock);
+    ~frmMain() override;
 
     // Start-up's steps.
     void ShowTypes();  // Fills lstType from the catalogue.

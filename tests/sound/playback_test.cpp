@@ -47,6 +47,7 @@ private:
 };
 
 void PlaybackTest::init() {
+    m_playback.reset(); // It takes leave of its player.
     m_state = AppState();
     LayStrings(m_state, standardStrings, true);
     m_clock = HandClock();

@@ -1,4 +1,5 @@
 // The neck of a left-handed player: mirrored to the eye and to the mouse, the same in music.
+#include "controls/application.h"
 #include "controls/colours.h"
 #include "support/mainwindow.h"
 
@@ -123,5 +124,9 @@ void LeftHandedTest::TheOtherHandTakesOverAtOnce() {
     QCOMPARE(m_main->workbench.Row(0).mark, std::optional(3));
 }
 
-QTEST_MAIN(LeftHandedTest)
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    LeftHandedTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "lefthanded_test.moc"
