@@ -41,6 +41,12 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ShowState();
 }
 
+// The pictures go last, and must not ask a window for their parts that is no more.
+frmMain::~frmMain() {
+    panel->picStrings->SetParts({});
+    panel->picKeyboard->SetParts({});
+}
+
 void frmMain::LayOut() {
     auto* work = Spaced(new QVBoxLayout, 0);
     work->addWidget(Frame2);
