@@ -33,7 +33,8 @@ QRectF TwipPicture::ToPixels(const QRectF& twips) const {
 }
 
 void TwipPicture::TellParts() {
-    Q_EMIT PartsTold();
+    if (m_parts)
+        Q_EMIT PartsTold();
 }
 
 void TwipPicture::MoveFocusTo(int part) {

@@ -46,11 +46,8 @@ FilterGroup::FilterGroup(QWidget* window)
       lblBass(NewLabel(u"lblBass", window)),
       lstBass(new DropDown(QStringLiteral("lstBass"), window)),
       lblStrings(NewLabel(u"lblStrings", window)),
-      chkNoBarre(nullptr),
-      chkComplete(nullptr),
       lblOrder(NewLabel(u"lblOrder", window)),
-      lstOrder(new DropDown(QStringLiteral("lstOrder"), window)),
-      cmdAll(nullptr) {
+      lstOrder(new DropDown(QStringLiteral("lstOrder"), window)) {
     auto* strings = Spaced(new QHBoxLayout, 0);
     for (int string = stringCount; string >= 1; --string) { // As in the diagrams.
         auto* box = NewCheckBox(QStringLiteral("chkString(%1)").arg(string - 1), window);

@@ -27,11 +27,11 @@ struct FilterGroup {
     DropDown* lstBass;
     TextLabel* lblStrings;
     std::array<QCheckBox*, stringCount> chkString; // Of string 1 first; half checked: either.
-    QCheckBox* chkNoBarre;
-    QCheckBox* chkComplete;
+    QCheckBox* chkNoBarre = nullptr;
+    QCheckBox* chkComplete = nullptr;
     TextLabel* lblOrder;
     DropDown* lstOrder;
-    GoldButton* cmdAll;
+    GoldButton* cmdAll = nullptr;
 
     VoicingFilter Filter() const;
     VoicingOrder Order() const { return static_cast<VoicingOrder>(lstOrder->currentIndex()); }
