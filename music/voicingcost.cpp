@@ -81,9 +81,10 @@ constexpr auto reachCost = [] {
 }();
 
 // The cost of the muted strings by the sounding ones, bit n the string n + 1.
+constexpr unsigned setsOfStrings = 1U << stringCount;
 constexpr auto muteCost = [] {
-    std::array<int, 1U << stringCount> costs{};
-    for (unsigned sounding = 1; sounding < costs.size(); ++sounding) {
+    std::array<int, setsOfStrings> costs{};
+    for (unsigned sounding = 1; sounding < setsOfStrings; ++sounding) {
         const int top = std::countr_zero(sounding);
         const int bass = static_cast<int>(std::bit_width(sounding)) - 1;
         int& cost = costs[sounding];

@@ -28,7 +28,7 @@ constexpr int barreFrets = 15;
 struct ChordToPlay {
     ChordOnStrings chord;
     QString name;
-    std::optional<PitchClass> bass; // Whose voicings come first.
+    std::optional<PitchClass> bass = std::nullopt; // Whose voicings come first.
 
     bool operator==(const ChordToPlay&) const = default;
 };
