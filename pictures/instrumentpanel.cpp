@@ -66,9 +66,9 @@ void InstrumentPanel::ShowLabels(const LabelsView& view) {
     }
 }
 
-void InstrumentPanel::ShowHint(const QString& hint) {
-    lblHint->setText(hint);
-    lblHint->setAccessibleName(hint);
+void InstrumentPanel::ShowHint(const QString& text) {
+    lblHint->setText(text);
+    lblHint->setAccessibleName(text);
 }
 
 QSize InstrumentPanel::SizeAt(double scale) {

@@ -28,7 +28,7 @@ public:
     void ShowLabels(const LabelsView& view);
 
     // Shows a line of text on lblHint.
-    void ShowHint(const QString& hint);
+    void ShowHint(const QString& text);
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;

@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8* data, std::size_t size) {
     for (int string = 1; string <= stringCount; ++string)
         if (const int midi = byte(string + 2); midi < 128)
             tuning[static_cast<std::size_t>(string - 1)] = {midi % notesPerOctave, midi};
-    const NoteSet notes = NoteSet::OfBits(byte(0) | byte(1) << 8U);
+    const NoteSet notes = NoteSet::OfBits(static_cast<unsigned>(byte(0) | byte(1) << 8));
     const PitchClass root = byte(2) % notesPerOctave;
     const Voicings found = FindVoicings(notes, root, tuning);
     std::vector<std::uint32_t> seen;
