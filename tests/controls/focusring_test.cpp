@@ -9,6 +9,7 @@
 
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
