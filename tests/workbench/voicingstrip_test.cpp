@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
