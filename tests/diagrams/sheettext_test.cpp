@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QMimeData>
+#include <QTextBlock>
 #include <QTextLayout>
 
 class SheetTextTest : public QObject, private Sheet {
