@@ -1,5 +1,14 @@
 #include "diagrams/fingeringcode.h"
 
+#include "workbench/views.h"
+
+BoardFingering FingeringOf(const Workbench& workbench, const QString& name) {
+    BoardFingering board{name, workbench.ShownBarreFret(), {}, HeldOnNeck(workbench)};
+    for (int row = 0; row < stringCount; ++row)
+        board.marks[static_cast<std::size_t>(row)] = workbench.Row(row).mark;
+    return board;
+}
+
 QString FingeringCode(const BoardFingering& board) {
     QString code = board.chordName + QStringLiteral(" - ");
     if (board.barreFret)

@@ -44,15 +44,18 @@ void CopyDiagram(const Diagram& diagram) {
     QApplication::clipboard()->setMimeData(data);
 }
 
-void SaveDiagram(QWidget* owner, const QString& title, const Diagram& diagram,
-                 const QString& programFolder) {
+QString SaveDiagram(QWidget* owner, const QString& title, const Diagram& diagram,
+                    const QString& programFolder) {
     const ExportChoice choice =
         AskForExport(owner, title, {ExportFormat::Svg, ExportFormat::Png}, {});
     if (choice.path.isEmpty())
-        return;
-    if (choice.format == ExportFormat::Png)
-        return WriteImage(choice.path, DiagramImage(diagram));
+        return {};
+    if (choice.format == ExportFormat::Png) {
+        WriteImage(choice.path, DiagramImage(diagram));
+        return choice.path;
+    }
     const PaintedPages picture{PictureSize(diagram), 1,
                                [&diagram](QPainter& painter, int) { Paint(painter, diagram); }};
     ExportSvg(choice.path, picture, diagram.name, LoadPrinting(programFolder));
+    return choice.path;
 }

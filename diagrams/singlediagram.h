@@ -12,7 +12,8 @@ QImage DiagramImage(const Diagram& diagram);
 // Puts it on the clipboard, as a picture and as text: "x32010".
 void CopyDiagram(const Diagram& diagram);
 
-// Writes an SVG or PNG file that the user chooses; nothing when cancelled. programFolder: where
-// the library that prints lies. A run-time error that names the reason when it cannot be written.
-void SaveDiagram(QWidget* owner, const QString& title, const Diagram& diagram,
-                 const QString& programFolder);
+// Writes an SVG or PNG file that the user chooses and gives its path, the empty text when
+// cancelled. programFolder: where the library that prints lies. A run-time error that names the
+// reason when it cannot be written.
+QString SaveDiagram(QWidget* owner, const QString& title, const Diagram& diagram,
+                    const QString& programFolder);

@@ -4,8 +4,6 @@
 #include "controls/handle.h"
 #include "pictures/voicingdelegate.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -106,6 +104,10 @@ void VoicingList::keyPressEvent(QKeyEvent* event) {
         Q_EMIT LayAsked(CurrentRow());
         return;
     }
+    if (event->matches(QKeySequence::Copy) && currentIndex().isValid()) {
+        Q_EMIT CopyAsked(CurrentRow());
+        return;
+    }
     QListView::keyPressEvent(event);
 }
 
@@ -146,6 +148,8 @@ void VoicingList::ShowMenu(const QModelIndex& index, QPoint place) {
     add(words(QStringLiteral("Добавить в список схем"), QStringLiteral("Add to the sheet")),
         [this, row] { Q_EMIT AddAsked(row); });
     add(words(QStringLiteral("Копировать %1"), QStringLiteral("Copy %1")).arg(text),
-        [text] { QApplication::clipboard()->setText(text); });
+        [this, row] { Q_EMIT CopyAsked(row); });
+    add(words(QStringLiteral("Сохранить диаграмму…"), QStringLiteral("Save the diagram…")),
+        [this, row] { Q_EMIT SaveAsked(row); });
     menu->popup(place);
 }

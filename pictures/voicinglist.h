@@ -40,6 +40,8 @@ Q_SIGNALS:
     void LayAsked(int row);
     void StrumAsked(int row); // Lays it and strums.
     void AddAsked(int row);   // Lays it and adds it to the sheet.
+    void CopyAsked(int row);  // The diagram, on the clipboard...
+    void SaveAsked(int row);  // ...or in a file.
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

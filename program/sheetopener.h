@@ -10,7 +10,7 @@ class QWidget;
 class Workbench;
 class frmDiags;
 class frmMain;
-struct BoardFingering;
+struct Diagram;
 
 class SheetOpener {
 public:
@@ -21,21 +21,20 @@ public:
 
     void Show();
 
-    // Adds what is on the neck without opening the sheet, and says so. What has no chord's name
-    // above the neck bears the name of what sounds.
+    // Adds what is on the neck without opening the sheet. As the others, it says so in the main
+    // window.
     void AddNeck();
 
-    // The neck's diagram, on the clipboard or in a file that the user chooses.
-    void CopyNeck();
-    void SaveNeck();
+    // A diagram by itself, on the clipboard or in a file that the user chooses. owner: of the
+    // file dialog.
+    void Copy(const Diagram& diagram);
+    void Save(QWidget* owner, const Diagram& diagram);
 
     // Whether the program may end: the sheet asks over what was not saved.
     bool MayEnd();
 
 private:
     frmDiags& Sheet();
-    BoardFingering Neck() const;
-    QString NameOfNeck() const;
 
     AppState& m_state;
     Workbench& m_workbench;

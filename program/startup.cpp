@@ -133,8 +133,10 @@ void StartUp::ConnectSheet() {
     frmMain* window = m_window.get();
     Handle(window, &frmMain::DiagramsAsked, window, [this] { m_sheet->Show(); });
     Handle(window, &frmMain::AddToSheetAsked, window, [this] { m_sheet->AddNeck(); });
-    Handle(window, &frmMain::NeckCopyAsked, window, [this] { m_sheet->CopyNeck(); });
-    Handle(window, &frmMain::NeckSaveAsked, window, [this] { m_sheet->SaveNeck(); });
+    Handle(window, &frmMain::CopyAsked, window,
+           [this](const Diagram& diagram) { m_sheet->Copy(diagram); });
+    Handle(window, &frmMain::SaveAsked, window,
+           [this](const Diagram& diagram) { m_sheet->Save(m_window.get(), diagram); });
     m_window->SetMayEnd([this] {
         bool mayEnd = false; // What saving the sheet reports keeps the program running.
         Application::Guard([&] { mayEnd = m_sheet->MayEnd(); });
@@ -149,6 +151,12 @@ void StartUp::OpenVoicings() {
         Handle(m_voicings.get(), &frmVoicings::LayAsked, m_window.get(), &frmMain::LayShape);
         Handle(m_voicings.get(), &frmVoicings::StrumAsked, m_window.get(), &frmMain::LayAndStrum);
         Handle(m_voicings.get(), &frmVoicings::AddAsked, m_window.get(), &frmMain::LayAndAdd);
+        Handle(m_voicings.get(), &frmVoicings::CopyAsked, m_window.get(),
+               [this](const Shape& shape) { m_sheet->Copy(m_window->DiagramOf(shape)); });
+        Handle(m_voicings.get(), &frmVoicings::SaveAsked, m_window.get(),
+               [this](const Shape& shape) {
+                   m_sheet->Save(m_voicings.get(), m_window->DiagramOf(shape));
+               });
     }
     m_voicings->show();
     ShowVoicings();

@@ -33,6 +33,10 @@ frmVoicings::frmVoicings(const AppState& state)
            [this](int row) { Ask(&frmVoicings::StrumAsked, row); });
     Handle(lstVoicings, &VoicingList::AddAsked, this,
            [this](int row) { Ask(&frmVoicings::AddAsked, row); });
+    Handle(lstVoicings, &VoicingList::CopyAsked, this,
+           [this](int row) { Ask(&frmVoicings::CopyAsked, row); });
+    Handle(lstVoicings, &VoicingList::SaveAsked, this,
+           [this](int row) { Ask(&frmVoicings::SaveAsked, row); });
     lstVoicings->Rows().SetRemark([this](const Shape& shape) {
         return Order() == VoicingOrder::Movement
                    ? MovementInWords(MovementBetween(m_neck, shape), m_state.InterfaceTongue())

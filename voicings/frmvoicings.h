@@ -24,6 +24,8 @@ Q_SIGNALS:
     void LayAsked(const Shape& shape);
     void StrumAsked(const Shape& shape); // Lays it and strums.
     void AddAsked(const Shape& shape);   // Lays it and adds it to the sheet.
+    void CopyAsked(const Shape& shape);  // Its diagram, on the clipboard...
+    void SaveAsked(const Shape& shape);  // ...or in a file.
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

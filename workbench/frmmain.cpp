@@ -36,6 +36,7 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ConnectTry();
     ConnectHear();
     ConnectMore();
+    ConnectDiagrams();
     qApp->installEventFilter(this); // Open lists and menus are windows of their own.
     ShowTexts({});
     ShowState();
@@ -63,9 +64,6 @@ void frmMain::LayOut() {
 
 void frmMain::ConnectMore() {
     Handle(cmdNewDiag, &GoldButton::Click, this, &frmMain::DiagramsAsked);
-    Handle(cmdAddDiag, &GoldButton::Click, this, &frmMain::AddToSheetAsked);
-    cmdAddDiag->setContextMenuPolicy(Qt::CustomContextMenu);
-    Handle(cmdAddDiag, &QWidget::customContextMenuRequested, this, &frmMain::cmdAddDiag_Menu);
     Handle(cmdSettings, &GoldButton::Click, this, &frmMain::SettingsAsked);
     Handle(cmdHelp, &GoldButton::Click, this, [this] { Q_EMIT HelpAsked(true); });
 }
@@ -126,11 +124,15 @@ void frmMain::DoQuietly(const std::function<void()>& command) {
 }
 
 void frmMain::OpenAtBestSize() {
+    OpenAtBestSize(screen()->availableGeometry().size());
+}
+
+void frmMain::OpenAtBestSize(const QSize& screen) {
     constexpr double share = 0.8; // Of the screen.
     constexpr double step = 0.5;
     constexpr double largest = 3; // Beyond, the lists beside the pictures look lost.
-    const QSize room = screen()->availableGeometry().size() * share;
-    GiveStripItsRoom();
+    const QSize room = screen * share;
+    GiveStripItsRoom(screen.height());
     // The strip does not count: the neck is as large as without it.
     const QSize strip(0,
                       lstVoicings->isHidden() ? 0 : lstVoicings->sizeHint().height() + layoutGap);
@@ -142,7 +144,7 @@ void frmMain::OpenAtBestSize() {
     while (scale < largest && QRect({}, room).contains(QRect({}, windowAt(scale + step) - strip)))
         scale += step;
     const QSize grown(0, static_cast<int>(strip.height() * (scale - 1)));
-    resize((windowAt(scale) + grown).boundedTo(screen()->availableGeometry().size()));
+    resize((windowAt(scale) + grown).boundedTo(screen));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "music/names.h"
+#include "pictures/diagramlayout.h"
 #include "sound/playback.h"
 #include "workbench/choosegroup.h"
 #include "workbench/heargroup.h"
@@ -62,6 +63,7 @@ public:
     // At the largest scale, in steps of a half, that leaves a fifth of the screen free; on a
     // small screen as large as there is room.
     void OpenAtBestSize();
+    void OpenAtBestSize(const QSize& screen); // On a screen of this size.
 
     // Asked when the window is about to close; false keeps it open.
     void SetMayEnd(std::function<bool()> mayEnd) { m_mayEnd = std::move(mayEnd); }
@@ -83,6 +85,13 @@ public:
     void LayShape(const Shape& shape);
     void LayAndStrum(const Shape& shape);
     void LayAndAdd(const Shape& shape);
+
+    // What is on the neck, under the chord's name; where lblChord shows none, under the first of
+    // lblSounds.
+    Diagram NeckDiagram() const;
+
+    // A way to play what the marked keys ask for, under its name.
+    Diagram DiagramOf(const Shape& shape) const;
 
     // Choose.
     void lstBase_Click(int row);
@@ -145,9 +154,9 @@ Q_SIGNALS:
     void SettingsAsked();
     void DiagramsAsked();
     void VoicingsAsked();
-    void AddToSheetAsked(); // What is on the neck is to be added to the sheet...
-    void NeckCopyAsked();   // ...copied as a diagram...
-    void NeckSaveAsked();   // ...or saved as one.
+    void AddToSheetAsked(); // What is on the neck is to be added to the sheet.
+    void CopyAsked(const Diagram& diagram);
+    void SaveAsked(const Diagram& diagram);
 
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -166,6 +175,7 @@ private:
     void ConnectTry();
     void ConnectHear();
     void ConnectMore();
+    void ConnectDiagrams();
     // Whether the key has been dealt with. inPopup: pressed in an open list or menu.
     bool KeyPressed(const QKeyEvent& press, bool inPopup);
     const KeyCommand* FindCommand(int key, int shift) const;
@@ -181,7 +191,7 @@ private:
     void ShowRows();
     void ShowVoicings();
     void StepVoicing(int step);
-    void GiveStripItsRoom();
+    void GiveStripItsRoom(int height);
     void ShowHint();
     QString Hint();
     QString WithHelp(const QString& hint) const;

@@ -1,7 +1,19 @@
-// What the main window does with the diagram of what is on its neck.
+// What the main window does with diagrams: of what is on its neck, and of the strip.
+#include "controls/handle.h"
 #include "workbench/frmmain.h"
+#include "workbench/views.h"
 
 #include <QMenu>
+
+void frmMain::ConnectDiagrams() {
+    Handle(cmdAddDiag, &GoldButton::Click, this, &frmMain::AddToSheetAsked);
+    cmdAddDiag->setContextMenuPolicy(Qt::CustomContextMenu);
+    Handle(cmdAddDiag, &QWidget::customContextMenuRequested, this, &frmMain::cmdAddDiag_Menu);
+    Handle(lstVoicings, &VoicingList::CopyAsked, this,
+           [this](int row) { Q_EMIT CopyAsked(DiagramOf(lstVoicings->Rows().ShapeAt(row))); });
+    Handle(lstVoicings, &VoicingList::SaveAsked, this,
+           [this](int row) { Q_EMIT SaveAsked(DiagramOf(lstVoicings->Rows().ShapeAt(row))); });
+}
 
 void frmMain::cmdAddDiag_Menu(QPoint place) {
     // The same commands as the picture's own menu has, for the mouse.
@@ -11,4 +23,19 @@ void frmMain::cmdAddDiag_Menu(QPoint place) {
     for (std::size_t i = 1; i < parts.actions.size(); ++i)
         menu.addAction(parts.actions[i].name, this, parts.actions[i].run);
     menu.exec(cmdAddDiag->mapToGlobal(place));
+}
+
+Diagram frmMain::NeckDiagram() const {
+    const bool unnamed = !m_workbench.NamesChord() && !m_sounding.empty();
+    return {unnamed ? m_sounding.front().text : m_workbench.ChordName(), HeldOnNeck(m_workbench),
+            m_state.LeftHanded};
+}
+
+Diagram frmMain::DiagramOf(const Shape& shape) const {
+    Diagram diagram{m_playing.name, shape, m_state.LeftHanded};
+    if (diagram.name.isEmpty() && m_names)
+        if (const auto names = m_names->Of(SoundingPitches(shape, m_playing.chord.tuning));
+            !names.empty())
+            diagram.name = names.front().text;
+    return diagram;
 }

@@ -17,8 +17,8 @@ void frmMain::ConnectSee() {
                            .switchBarre = [this] { cmdMakeBarre_Click(); },
                            .moveBarre = [this](int fret) { lstLadBarre->SelectRow(fret - 1); },
                            .clear = [this] { DoQuietly([&] { m_workbench.ClearFretboard(); }); },
-                           .copyDiagram = [this] { Q_EMIT NeckCopyAsked(); },
-                           .saveDiagram = [this] { Q_EMIT NeckSaveAsked(); }};
+                           .copyDiagram = [this] { Q_EMIT CopyAsked(NeckDiagram()); },
+                           .saveDiagram = [this] { Q_EMIT SaveAsked(NeckDiagram()); }};
     m_keyboardCommands = {.toggle = [this](int key) { Do([&] { m_workbench.ToggleKey(key); }); },
                           .clear = [this] { Do([&] { m_workbench.ClearKeyMarks(); }); }};
     panel->picStrings->SetParts(

@@ -42,6 +42,8 @@ constexpr std::array texts{
          u"Ways to play the chord (Ctrl+Page Down, Ctrl+Page Up)"),
     Ours(u"cmdVoicings", Hint, u"Все аппликатуры аккорда (F11)",
          u"Every way to play the chord (F11)"),
+    Ours(u"cmdAddDiag", Hint, u"Добавить то, что на грифе, на лист диаграмм (Ctrl+D)",
+         u"Add what is on the neck to the diagram sheet (Ctrl+D)"),
     OfFile(u"Label2", Caption, 20, u"Нажаты клавиши:"), // The key serves twice.
     OfFile(u"Label7", Caption, 23, u"Недостающие звуки:"),
 
@@ -86,8 +88,6 @@ constexpr std::array texts{
 
     OfFile(u"Frame5", Caption, 3, u"Дополнительно:"),
     Ours(u"cmdNewDiag", Hint, u"Диаграммы аккордов", u"Chord diagrams"),
-    Ours(u"cmdAddDiag", Hint, u"Добавить то, что на грифе, на лист диаграмм (Ctrl+D)",
-         u"Add what is on the neck to the diagram sheet (Ctrl+D)"),
     Ours(u"cmdSettings", Hint, u"Настройки (F10)", u"Settings (F10)"),
     Ours(u"cmdHelp", Hint, u"Помощь (F1)", u"Help (F1)"),
 };

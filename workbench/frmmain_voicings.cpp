@@ -4,7 +4,6 @@
 #include "workbench/frmmain.h"
 
 #include <QLayout>
-#include <QScreen>
 
 #include <algorithm>
 
@@ -83,12 +82,14 @@ void frmMain::resizeEvent(QResizeEvent* event) {
 }
 
 // On a screen too small for it the strip goes, before the neck has to shrink.
-void frmMain::GiveStripItsRoom() {
+void frmMain::GiveStripItsRoom(int height) {
     const auto show = [this](bool shown) {
         lstVoicings->setVisible(shown);
         lblVoicings->setVisible(shown);
         cmdVoicings->setVisible(shown);
+        cmdAddDiag->setVisible(shown);
+        layout()->activate(); // It would give the sizes as they were.
     };
     show(true);
-    show(layout()->totalMinimumSize().height() <= screen()->availableGeometry().height());
+    show(layout()->totalMinimumSize().height() <= height);
 }

@@ -11,7 +11,6 @@ struct MoreGroup {
 
     QGroupBox* Frame5;
     GoldButton* cmdNewDiag;
-    GoldButton* cmdAddDiag; // Adds what is on the neck to the sheet.
     GoldButton* cmdSettings;
     GoldButton* cmdHelp;
 };

@@ -16,6 +16,7 @@ SeeGroup::SeeGroup(QWidget* window)
       lstVoicings(new VoicingList(QStringLiteral("lstVoicings"), VoicingList::Flow::Strip, window)),
       lblVoicings(NewLabel(u"lblVoicings", window)),
       cmdVoicings(NewPictureButton(u"cmdVoicings", Icon::Voicings, window)),
+      cmdAddDiag(NewPictureButton(u"cmdAddDiag", Icon::Add, window)),
       Label2(NewLabel(u"Label2", window)),
       lblKeys(NewLabel(u"lblKeys", window)),
       Label7(NewLabel(u"Label7", window)),
@@ -54,8 +55,12 @@ QLayout* SeeGroup::VoicingLine() {
     lstVoicings->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* grid = Spaced(new QGridLayout, 0);
     grid->setVerticalSpacing(layoutGap / 4);
+    auto* buttons = Spaced(new QVBoxLayout, 0);
+    buttons->addWidget(cmdVoicings);
+    buttons->addWidget(cmdAddDiag);
+    buttons->addStretch(1);
     grid->addWidget(lstVoicings, 0, 0);
-    grid->addWidget(cmdVoicings, 0, 1, Qt::AlignTop);
+    grid->addLayout(buttons, 0, 1);
     grid->addWidget(lblVoicings, 1, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     return grid;

@@ -24,6 +24,7 @@ struct SeeGroup {
     VoicingList* lstVoicings;
     TextLabel* lblVoicings;
     GoldButton* cmdVoicings;
+    GoldButton* cmdAddDiag; // Adds what is on the neck to the sheet.
     TextLabel* Label2;
     TextLabel* lblKeys;
     TextLabel* Label7;

@@ -59,3 +59,12 @@ LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state) {
     }
     return view;
 }
+
+Shape HeldOnNeck(const Workbench& workbench) {
+    Shape shape = workbench.NeckShape();
+    if (const auto fingers = FindFingers(shape))
+        for (int string = 1; string <= stringCount; ++string)
+            shape.fingers[static_cast<std::size_t>(string - 1)] =
+                static_cast<std::int8_t>(fingers->Of(string));
+    return shape;
+}

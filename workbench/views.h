@@ -10,3 +10,7 @@ FretboardLayout LayoutOfFretboard(const AppState& state);
 FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state);
 KeyboardView ViewOfKeyboard(const Workbench& workbench);
 LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state);
+
+// What is on the neck with the fingers that usually hold it, where a hand can; the neck's barre
+// stays as it is.
+Shape HeldOnNeck(const Workbench& workbench);

@@ -122,6 +122,7 @@ public:
     QString RowText(int row) const; // The note that the row sounds, as its label shows it.
     std::optional<Barre> ShownBarre() const { return m_barre; }
     const QString& ChordName() const { return m_chordName; }
+    bool NamesChord() const { return m_namesChord; } // Whether that is a chord's name.
     const QString& ChordHint() const { return m_chordHint; }
     const QString& MarkedNames() const { return m_markedNames; }
     const MissingNotes& Missing() const { return m_missing; }
@@ -157,6 +158,7 @@ private:
     int m_barreFretRow = -1;
 
     QString m_chordName;
+    bool m_namesChord = false; // It may be a scale's, or that none was found.
     QString m_chordHint;
     QString m_markedNames;
     MissingNotes m_missing;

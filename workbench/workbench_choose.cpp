@@ -53,6 +53,7 @@ void Workbench::BeginChoice(bool showRings) {
 
 void Workbench::NameChosenChord() {
     m_chordName = m_rootName + m_state->ChordTypes.Field(ChordType::Suffix, m_typeRow + 1);
+    m_namesChord = true;
 }
 
 void Workbench::SpellChord() {
@@ -81,6 +82,7 @@ void Workbench::ChooseScale(int row, const QString& name) {
     for (const double step : ScaleSteps(degrees))
         m_keys.Mark(ToInteger16(m_rootRow + step));
     m_chordName = m_rootName + u' ' + name;
+    m_namesChord = false;
     ShowMarkedKeyNames();
 }
 
@@ -90,4 +92,5 @@ QString Workbench::AlternativeNames() const {
 
 void Workbench::FindChord() {
     m_chordName = NameChord(m_keys.Marked(), m_state->ChordTypes);
+    m_namesChord = m_chordName != unknownChord;
 }

@@ -20,8 +20,8 @@ private Q_SLOTS:
             [this](QWidget& sheet) { m_sheet = qobject_cast<frmDiags*>(&sheet); });
         QObject::connect(&m_main->window, &frmMain::AddToSheetAsked, this,
                          [this] { m_opener->AddNeck(); });
-        QObject::connect(&m_main->window, &frmMain::NeckCopyAsked, this,
-                         [this] { m_opener->CopyNeck(); });
+        QObject::connect(&m_main->window, &frmMain::CopyAsked, this,
+                         [this](const Diagram& diagram) { m_opener->Copy(diagram); });
     }
     void cleanup() {
         m_opener.reset();
@@ -57,9 +57,12 @@ private Q_SLOTS:
             m_main->workbench.ChooseScale(0, QStringLiteral("Harmonic Minor"));
         }
         QCOMPARE(m_main->workbench.ChordName(), shown);
+        m_main->window.ShowState();
         m_opener->AddNeck();
-        const QString row = m_sheet->lstMain->RowText(0);
-        QVERIFY2(!row.startsWith(shown) && !row.startsWith(u' '), qPrintable(row));
+        const QString sounds = m_main->Text(QStringLiteral("lblSounds"));
+        QVERIFY(!sounds.isEmpty());
+        QVERIFY2(m_sheet->lstMain->RowText(0).startsWith(sounds.section(u' ', 0, 0) + u" - "),
+                 qPrintable(m_sheet->lstMain->RowText(0)));
     }
 
     void CollectedRowsKnowTheirMutes() {
@@ -82,12 +85,27 @@ private Q_SLOTS:
     }
 
     void TheNeckIsCopied() {
-        Q_EMIT m_main->window.NeckCopyAsked();
+        RunAction(QStringLiteral("Копировать диаграмму"));
         QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("032010"));
+        QVERIFY(QApplication::clipboard()->mimeData()->hasImage());
+        QVERIFY(m_main->Text(QStringLiteral("lblHint")).endsWith(QStringLiteral("032010")));
+    }
+
+    void AVoicingIsCopied() {
+        Q_EMIT m_main->window.lstVoicings->CopyAsked(0);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("x32010"));
         QVERIFY(QApplication::clipboard()->mimeData()->hasImage());
     }
 
 private:
+    // What the neck's picture offers in its menu and to a screen reader.
+    void RunAction(const QString& name) {
+        for (const auto& action : m_main->board->Parts().actions)
+            if (action.name == name)
+                return action.run();
+        QFAIL(qPrintable(name));
+    }
+
     std::unique_ptr<MainWindow> m_main;
     std::unique_ptr<SheetOpener> m_opener;
     frmDiags* m_sheet = nullptr;

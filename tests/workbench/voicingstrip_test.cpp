@@ -2,7 +2,6 @@
 #include "controls/application.h"
 #include "support/mainwindow.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLayout>
 #include <QMenu>
@@ -28,11 +27,13 @@ private Q_SLOTS:
     void OpensTheWindow();
     void CommandKeysWorkInTheWindowBeside();
     void Menu();
+    void CtrlCCopiesTheCurrentDiagram();
     void ToolTipAndName();
     void WhyItIsEmpty();
     void MirroredWithTheNeck();
     void FingerNumbersLeaveTheCentres();
-    void GoesOnAScreenTooSmall();
+    void StandsWhereThereIsRoom();
+    void GoesBeforeTheNeckShrinks();
 
 private:
     VoicingList& Strip() { return *m_main->window.lstVoicings; }
@@ -185,8 +186,29 @@ void VoicingStripTest::Menu() {
     QCOMPARE(m_main->midi.strums, 1);
     choose(2);
     QCOMPARE(added.count(), 1);
+    const QSignalSpy copied(&m_main->window, &frmMain::CopyAsked);
+    const QSignalSpy saved(&m_main->window, &frmMain::SaveAsked);
     choose(3);
-    QCOMPARE(QApplication::clipboard()->text(), shape);
+    choose(4);
+    for (const QSignalSpy* asked : {&copied, &saved}) {
+        QCOMPARE(asked->count(), 1);
+        const auto diagram = asked->at(0).at(0).value<Diagram>();
+        QCOMPARE(diagram.name, QStringLiteral("C"));
+        QCOMPARE(FretsText(diagram.shape), shape);
+    }
+}
+
+void VoicingStripTest::CtrlCCopiesTheCurrentDiagram() {
+    const QSignalSpy copied(&m_main->window, &frmMain::CopyAsked);
+    m_main->workbench.ClearKeyMarks(); // Without a chord that is chosen, named by its notes.
+    for (const int key : {9, 12, 16})
+        m_main->workbench.ToggleKey(key);
+    m_main->window.ShowState();
+    Strip().setFocus();
+    Key(Qt::Key_Home);
+    Key(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(copied.count(), 1);
+    QCOMPARE(copied[0][0].value<Diagram>().name, QStringLiteral("Am"));
 }
 
 void VoicingStripTest::ToolTipAndName() {
@@ -243,7 +265,7 @@ void VoicingStripTest::FingerNumbersLeaveTheCentres() {
     check(layout.MarkCentre(0, 1));
 }
 
-void VoicingStripTest::GoesOnAScreenTooSmall() {
+void VoicingStripTest::StandsWhereThereIsRoom() {
     // The test's screen has room: the strip stands, and nothing overlaps it.
     QVERIFY(Strip().isVisible());
     const auto& window = m_main->window;
@@ -251,6 +273,24 @@ void VoicingStripTest::GoesOnAScreenTooSmall() {
     QVERIFY(Strip().geometry().bottom() < window.lblKeys->geometry().top());
     QVERIFY(window.layout()->totalMinimumSize().height() <= 768);
     QVERIFY(window.layout()->totalMinimumSize().width() <= 1024);
+}
+
+void VoicingStripTest::GoesBeforeTheNeckShrinks() {
+    frmMain& window = m_main->window;
+    const int needed = window.layout()->totalMinimumSize().height();
+    const QSize screen(1024, needed);
+    window.OpenAtBestSize(screen);
+    QVERIFY(Strip().isVisible());
+    const double neck = m_main->board->Scale();
+    window.OpenAtBestSize(screen - QSize(0, 1));
+    for (const QWidget* gone :
+         {static_cast<QWidget*>(&Strip()), static_cast<QWidget*>(window.lblVoicings),
+          static_cast<QWidget*>(window.cmdVoicings), static_cast<QWidget*>(window.cmdAddDiag)})
+        QVERIFY2(!gone->isVisible(), qPrintable(gone->objectName()));
+    QVERIFY(window.layout()->totalMinimumSize().height() < needed);
+    QVERIFY(m_main->board->Scale() >= neck);
+    window.OpenAtBestSize(screen);
+    QVERIFY2(Strip().isVisible(), "it comes back where there is room");
 }
 
 int main(int argc, char** argv) {
