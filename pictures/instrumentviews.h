@@ -6,6 +6,7 @@
 #include "music/noteset.h"
 #include "music/pianokeys.h"
 #include "pictures/fretboardlayout.h"
+#include "pictures/keyboardlayout.h"
 
 #include <bitset>
 
@@ -42,6 +43,7 @@ struct FretboardView {
 };
 
 struct KeyboardView {
+    KeyboardLayout layout;
     std::array<Rgb, keyCount> fills{};
     std::optional<int> soundingKey;
 

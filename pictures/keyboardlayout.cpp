@@ -22,21 +22,21 @@ std::optional<int> StripAt(double x, double width, int count) {
 
 } // namespace
 
-QRectF KeyboardLayout::KeyRect(int key) {
+QRectF KeyboardLayout::KeyRect(int key) const {
     const double left = WhiteKeyAtOrAbove(key) * whiteKeyStep;
     if (IsBlackKey(key))
         return {left - 120, 0, blackKeyWidth, blackKeyHeight};
     return {left, 0, whiteKeyWidth, size.height()};
 }
 
-QRectF KeyboardLayout::FreeArea(int key) {
+QRectF KeyboardLayout::FreeArea(int key) const {
     QRectF area = KeyRect(key);
     if (!IsBlackKey(key))
         area.setTop(blackKeyHeight);
     return area;
 }
 
-std::optional<int> KeyboardLayout::KeyAt(QPointF point) {
+std::optional<int> KeyboardLayout::KeyAt(QPointF point) const {
     if (point.y() < blackKeyHeight) {
         const auto zone = StripAt(point.x(), zoneWidth, static_cast<int>(KeyZoneNotes.size()));
         return zone ? std::optional(KeyZoneNote(*zone)) : std::nullopt;

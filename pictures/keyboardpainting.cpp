@@ -46,7 +46,7 @@ void PaintName(QPainter& painter, int key, const QRectF& rect) {
 }
 
 void PaintKey(QPainter& painter, const KeyboardView& view, int key) {
-    const QRectF rect = KeyboardLayout::KeyRect(key);
+    const QRectF rect = view.layout.KeyRect(key);
     const bool marked = IsMarked(view, key);
     // Rounded below only: the keys come out from under the upper edge.
     const QRectF tall = rect.adjusted(7.5, -2 * corner, -7.5, -7.5);

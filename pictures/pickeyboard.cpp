@@ -10,13 +10,13 @@
 namespace {
 
 // The key without what the black keys beside it hide.
-QPainterPath VisibleArea(int key) {
+QPainterPath VisibleArea(const KeyboardLayout& layout, int key) {
     QPainterPath area;
-    area.addRect(KeyboardLayout::KeyRect(key));
+    area.addRect(layout.KeyRect(key));
     QPainterPath above;
     for (int black = 0; black < keyCount; ++black)
         if (IsBlackKey(black) && !IsBlackKey(key))
-            above.addRect(KeyboardLayout::KeyRect(black));
+            above.addRect(layout.KeyRect(black));
     return area.subtracted(above);
 }
 
@@ -53,5 +53,5 @@ void PicKeyboard::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_picture);
-    PaintFocus(painter, VisibleArea(FocusPart()));
+    PaintFocus(painter, VisibleArea(m_view.layout, FocusPart()));
 }

@@ -25,6 +25,7 @@ public:
 
     // Diagrams and their order of strings from the other side.
     void SetLeftHanded(bool leftHanded);
+    Tongue InTongue() const { return m_tongue; }
     void SetTongue(Tongue tongue) { m_tongue = tongue; }
 
     // The row without running anything; -1 for none. It is only brought into view when asked.

@@ -16,6 +16,7 @@
 #include "voicings/frmvoicings.h"
 
 #include <QMessageBox>
+#include <QScreen>
 #include <QShortcut>
 
 StartUp::StartUp(Application& application, const QString& folder)
@@ -61,7 +62,7 @@ void StartUp::Main() {
     m_splash->ProgressStep();
     m_splash.reset();
     ConnectWindows();
-    m_window->OpenAtBestSize();
+    m_window->OpenAtBestSize(m_window->screen()->availableGeometry().size());
     m_window->show();
 }
 
@@ -166,5 +167,6 @@ void StartUp::OpenVoicings() {
 
 void StartUp::ShowVoicings() {
     if (m_voicings && m_voicings->isVisible())
-        m_voicings->ShowState(m_window->Playing(), m_window->Found(), m_workbench->NeckShape());
+        m_voicings->ShowState(m_window->Playing().Chord(), m_window->Playing().Found(),
+                              m_workbench->NeckShape());
 }

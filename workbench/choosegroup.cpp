@@ -32,3 +32,9 @@ ChooseGroup::ChooseGroup(QWidget* window)
     lstType->setMinimumHeight(lstType->fontMetrics().height() * 5);
     lstLad->setMinimumHeight(lstLad->fontMetrics().height() * 4);
 }
+
+void ChooseGroup::ShowRows(const Workbench& workbench) const {
+    lstBase->ShowRow(workbench.RootRow());
+    lstType->ShowRow(workbench.TypeRow());
+    lstLad->ShowRow(workbench.ScaleRow());
+}

@@ -5,6 +5,7 @@
 #include "controls/listbox.h"
 #include "controls/promptfield.h"
 #include "controls/textlabel.h"
+#include "workbench/workbench.h"
 
 #include <QGroupBox>
 
@@ -19,4 +20,7 @@ struct ChooseGroup {
     TextLabel* Label5;
     PromptField* txtFind;
     GoldButton* cmdFind;
+
+    // The rows that are chosen.
+    void ShowRows(const Workbench& workbench) const;
 };

@@ -3,14 +3,14 @@
 
 #include "controls/handle.h"
 #include "controls/newcontrols.h"
-#include "controls/windowtexts.h"
 #include "core/runtimeerror.h"
+#include "workbench/maintexts.h"
+#include "workbench/windowroom.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QScopeGuard>
-#include <QScreen>
 
 frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock& clock)
     : ChooseGroup(this),
@@ -24,7 +24,9 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
                  {[this](int key) { return m_workbench.Keys().IsMarked(key); },
                   [this](int row) { return m_workbench.SoundOfRow(row); },
                   [this] { return m_workbench.ShownBarreFret(); },
-                  [this] { return lstTemp->currentIndex() == 1; }}) {
+                  [this] { return lstTemp->currentIndex() == 1; }}),
+      m_commandKeys(*this, {[this](int key, int shift) { return CommandOfKey(key, shift); },
+                            [this](int key, int shift) { return Form_KeyDown(key, shift); }}) {
     setObjectName(QStringLiteral("frmMain"));
     setMouseTracking(true);
     LayOut();
@@ -37,7 +39,6 @@ frmMain::frmMain(AppState& state, Workbench& workbench, MidiPlayer& midi, Clock&
     ConnectHear();
     ConnectMore();
     ConnectDiagrams();
-    qApp->installEventFilter(this); // Open lists and menus are windows of their own.
     ShowTexts({});
     ShowState();
 }
@@ -68,6 +69,10 @@ void frmMain::ConnectMore() {
     Handle(cmdHelp, &GoldButton::Click, this, [this] { Q_EMIT HelpAsked(true); });
 }
 
+void frmMain::ShowTexts(const TextSource& source) {
+    ApplyTexts(*this, MainTexts(), QStringLiteral("Main"), source);
+}
+
 void frmMain::SelectDefaults() {
     lstBarre->SelectRow(stringCount - 1);
     lstLadBarre->SelectRow(0);
@@ -76,7 +81,8 @@ void frmMain::SelectDefaults() {
     lstBase->SelectRow(0);
     lstLad->SelectRow(0);
     lstType->SelectRow(0);
-    ForgetSteps(); // A user has done nothing yet.
+    m_history.LieOn(m_state.StringNotes, m_state.SoundNumbers, m_state.ThinStringAtBottom);
+    m_history.Forget(); // A user has done nothing yet.
 }
 
 void frmMain::Do(const std::function<void()>& command) {
@@ -100,19 +106,9 @@ void frmMain::Redo() {
 }
 
 void frmMain::StringsChanged() {
-    if (StringsNow() != m_strings)
-        ForgetSteps();
+    m_history.LieOn(m_state.StringNotes, m_state.SoundNumbers, m_state.ThinStringAtBottom);
     m_workbench.StringsChanged();
     ShowState();
-}
-
-frmMain::LaidStrings frmMain::StringsNow() const {
-    return {m_state.StringNotes, m_state.SoundNumbers, m_state.ThinStringAtBottom};
-}
-
-void frmMain::ForgetSteps() {
-    m_history.Forget();
-    m_strings = StringsNow();
 }
 
 void frmMain::DoQuietly(const std::function<void()>& command) {
@@ -123,28 +119,14 @@ void frmMain::DoQuietly(const std::function<void()>& command) {
     }
 }
 
-void frmMain::OpenAtBestSize() {
-    OpenAtBestSize(screen()->availableGeometry().size());
+void frmMain::OpenAtBestSize(const QSize& screen) {
+    GiveStripItsRoom(*this, *this, screen);
+    resize(BestSize(*this, *this, screen));
 }
 
-void frmMain::OpenAtBestSize(const QSize& screen) {
-    constexpr double share = 0.8; // Of the screen.
-    constexpr double step = 0.5;
-    constexpr double largest = 3; // Beyond, the lists beside the pictures look lost.
-    const QSize room = screen * share;
-    GiveStripItsRoom(screen.height());
-    // The strip does not count: the neck is as large as without it.
-    const QSize strip(0,
-                      lstVoicings->isHidden() ? 0 : lstVoicings->sizeHint().height() + layoutGap);
-    const QSize around = layout()->totalSizeHint() - panel->sizeHint();
-    const auto windowAt = [&](double scale) {
-        return (around + InstrumentPanel::SizeAt(scale)).expandedTo(layout()->totalMinimumSize());
-    };
-    double scale = 1;
-    while (scale < largest && QRect({}, room).contains(QRect({}, windowAt(scale + step) - strip)))
-        scale += step;
-    const QSize grown(0, static_cast<int>(strip.height() * (scale - 1)));
-    resize((windowAt(scale) + grown).boundedTo(screen));
+void frmMain::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    GrowDiagrams(*this);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -6,19 +6,21 @@
 #include "pictures/diagramlayout.h"
 #include "sound/playback.h"
 #include "workbench/choosegroup.h"
+#include "workbench/commandkeys.h"
 #include "workbench/heargroup.h"
+#include "workbench/hint.h"
 #include "workbench/history.h"
-#include "workbench/keytable.h"
 #include "workbench/moregroup.h"
 #include "workbench/pictureparts.h"
+#include "workbench/playingchord.h"
 #include "workbench/seegroup.h"
 #include "workbench/trygroup.h"
 
 #include <QWidget>
 
 #include <functional>
-#include <span>
 
+struct KeyCommand;
 struct TextSource;
 struct TypedChord;
 
@@ -60,10 +62,7 @@ public:
     // The settings laid strings on the rows. Other ones than before leave nothing to undo.
     void StringsChanged();
 
-    // At the largest scale, in steps of a half, that leaves a fifth of the screen free; on a
-    // small screen as large as there is room.
-    void OpenAtBestSize();
-    void OpenAtBestSize(const QSize& screen); // On a screen of this size.
+    void OpenAtBestSize(const QSize& screen); // What the screen has for windows.
 
     // Asked when the window is about to close; false keeps it open.
     void SetMayEnd(std::function<bool()> mayEnd) { m_mayEnd = std::move(mayEnd); }
@@ -75,11 +74,10 @@ public:
     Workbench& State() { return m_workbench; }
 
     // The chord that the marked keys ask for, and every way to play it.
-    const ChordToPlay& Playing() const { return m_playing; }
-    const Voicings& Found() const { return m_found; }
+    const PlayingChord& Playing() const { return m_playing; }
 
     // The command keys, but for the plain arrows, work in that window as in this one.
-    void TakeKeysOf(const QWidget* window) { m_beside = window; }
+    void TakeKeysOf(const QWidget* window) { m_commandKeys.TakeKeysOf(window); }
 
     // Commands of the lists of diagrams, here and in frmVoicings.
     void LayShape(const Shape& shape);
@@ -107,22 +105,17 @@ public:
     void cmdRings_Click();
     void lstVoicings_Click(int row);
     void lstVoicings_DblClick(int row);
-    void cmdVoicings_Click();
 
     // Point at the pictures and the labels around them. Places are in twips.
     void picStrings_MouseDown(Qt::MouseButton button, QPointF place);
     void picStrings_MouseMove(QPointF place);
     void picStrings_MouseUp();
-    void picStrings_MouseLeave();
     void picKeyboard_MouseDown(Qt::MouseButton button, QPointF place);
     void picKeyboard_MouseMove(QPointF place);
-    void picKeyboard_MouseLeave();
     void Label3_Click(int index);
     void Label3_MouseMove(int index);
-    void Label3_MouseLeave();
     void Label6_MouseDown(int index, Qt::MouseButton button);
     void Label6_MouseMove(int index);
-    void Label6_MouseLeave();
     void cmdAddDiag_Menu(QPoint place);
     void Form_MouseMove();
 
@@ -141,12 +134,19 @@ public:
     void GoldButton3_Click();
     void cmdStrum_Click();
 
-    // The keys that have a command, in the order in which they are looked for: the first row
-    // that fits is run. Arrows that are not among them move the focus to the fretboard.
-    static std::span<const KeyCommand> KeyTable();
+    // Of the keys alone.
+    void GoToFind();
+    void StepRoot(int step);
+    void StepType(int step);
+    void StepString(int step);
+    void StepBarre(int step);
+    void StepVoicing(int step);
 
     // Runs the key's command. shift: 1 Shift, 2 Ctrl, 4 Alt. False for a key that has none.
     bool Form_KeyDown(int key, int shift);
+
+    // The command of the key where the focus is now; null for a key that has none.
+    const KeyCommand* CommandOfKey(int key, int shift) const;
 
 Q_SIGNALS:
     void StateShown(); // After a command, when the controls show what it did.
@@ -159,7 +159,7 @@ Q_SIGNALS:
     void SaveAsked(const Diagram& diagram);
 
 protected:
-    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent*) override { Form_MouseMove(); }
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
@@ -176,42 +176,14 @@ private:
     void ConnectHear();
     void ConnectMore();
     void ConnectDiagrams();
-    // Whether the key has been dealt with. inPopup: pressed in an open list or menu.
-    bool KeyPressed(const QKeyEvent& press, bool inPopup);
-    const KeyCommand* FindCommand(int key, int shift) const;
-    void StepRow(ListBox& list, int step, int rows);
-    void GoToFind();
-    void StepRoot(int step);
-    void StepType(int step);
-    void StepString(int step);
-    void StepBarre(int step);
     void ShowInstruments();
     void ShowLabels();
     void ShowNames();
-    void ShowRows();
     void ShowVoicings();
-    void StepVoicing(int step);
-    void GiveStripItsRoom(int height);
     void ShowHint();
-    QString Hint();
-    QString WithHelp(const QString& hint) const;
-    void PointAt(std::optional<BoardPlace> place, std::optional<int> key);
-    void RestOn(const TwipPicture* picture);
+    void Light(bool fretLabel, bool stringLabel);
+    void PointAt(const Pointed& pointed);
     bool IsOnBarre(double x) const;
-
-    // How the strings lie.
-    struct LaidStrings {
-        SixTexts notes;
-        SixTexts soundNumbers;
-        bool thinStringAtBottom = true;
-
-        bool operator==(const LaidStrings&) const = default;
-    };
-    LaidStrings StringsNow() const;
-    void ForgetSteps();
-
-    // The command of a key, by the modifiers of Form_KeyDown; empty for a key that has none.
-    std::function<void()> CommandOf(const QKeyEvent& press);
 
     // The same as Do for the commands of the fretboard, which ignore a run-time error.
     void DoQuietly(const std::function<void()>& command);
@@ -219,15 +191,12 @@ private:
     AppState& m_state;
     Workbench& m_workbench;
     History m_history;
-    LaidStrings m_strings;               // That the steps in the history were done on.
     std::optional<PlayersNames> m_names; // Of the catalogue, once it is filled.
     std::vector<PlayersName> m_sounding;
     Playback m_playback;
     std::function<bool()> m_mayEnd;
-    const QWidget* m_beside = nullptr;
-    ChordToPlay m_playing;
-    Voicings m_found;
-    Tongue m_foundIn = Tongue::Russian;
+    PlayingChord m_playing;
+    CommandKeys m_commandKeys;
     FretboardCommands m_fretboardCommands;
     KeyboardCommands m_keyboardCommands;
 
@@ -236,9 +205,6 @@ private:
     int LastStringLabel = 0;
     bool m_fretLabelLit = false; // Whether that label is blue now.
     bool m_stringLabelLit = false;
-    std::optional<BoardPlace> m_pointed;    // Under the pointer...
-    bool m_chordPointed = false;            // Whether the pointer is on lblChord.
-    std::optional<int> m_pointedKey;        // ...and on the piano.
-    const TwipPicture* m_restsOn = nullptr; // The picture on which the pointer rests.
+    Pointed m_pointed;
     QString m_notice;
 };

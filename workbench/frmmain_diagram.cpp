@@ -32,10 +32,5 @@ Diagram frmMain::NeckDiagram() const {
 }
 
 Diagram frmMain::DiagramOf(const Shape& shape) const {
-    Diagram diagram{m_playing.name, shape, m_state.LeftHanded};
-    if (diagram.name.isEmpty() && m_names)
-        if (const auto names = m_names->Of(SoundingPitches(shape, m_playing.chord.tuning));
-            !names.empty())
-            diagram.name = names.front().text;
-    return diagram;
+    return {m_names ? m_playing.NameOf(shape, *m_names) : QString(), shape, m_state.LeftHanded};
 }

@@ -7,19 +7,15 @@
 void frmMain::ConnectNames() {
     Handle(lblSounds, &ChoiceLabel::Chosen, this, &frmMain::lblSounds_Click);
     Handle(cmdRings, &GoldButton::Click, this, &frmMain::cmdRings_Click);
-    auto* completer = new TypeCompleter(
-        txtFind, m_state.ChordTypes, [this](const QKeyEvent& press) { return CommandOf(press); });
+    auto* completer =
+        new TypeCompleter(txtFind, m_state.ChordTypes, [this](const QKeyEvent& press) {
+            return m_commandKeys.CommandOf(press);
+        });
     Handle(completer, &TypeCompleter::Chosen, this, &frmMain::txtFind_Chosen);
 }
 
 void frmMain::ShowNames() {
-    constexpr std::size_t mostNames = 4;
-    std::optional<CatalogueChord> chosen;
-    if (m_workbench.RootRow() >= 0 && m_workbench.TypeRow() >= 0)
-        chosen = {m_workbench.RootRow(), m_workbench.TypeRow() + 1};
-    const auto pitches = SoundingPitches(m_workbench.NeckShape(), TuningOf(m_state));
-    m_sounding = m_names ? m_names->Of(pitches, chosen) : std::vector<PlayersName>();
-    m_sounding.resize(std::min(m_sounding.size(), mostNames));
+    m_sounding = m_names ? m_workbench.NamesOfHand(*m_names) : std::vector<PlayersName>();
     std::vector<ChoiceLabel::Choice> choices;
     for (const PlayersName& name : m_sounding)
         choices.push_back({name.text, name.chord.has_value()});

@@ -9,22 +9,26 @@ void frmMain::ConnectPoint() {
     Handle(panel->picStrings, &TwipPicture::MouseDown, this, &frmMain::picStrings_MouseDown);
     Handle(panel->picStrings, &TwipPicture::MouseMove, this, &frmMain::picStrings_MouseMove);
     Handle(panel->picStrings, &TwipPicture::MouseUp, this, &frmMain::picStrings_MouseUp);
-    Handle(panel->picStrings, &TwipPicture::MouseLeave, this, &frmMain::picStrings_MouseLeave);
     Handle(panel->picKeyboard, &TwipPicture::MouseDown, this, &frmMain::picKeyboard_MouseDown);
     Handle(panel->picKeyboard, &TwipPicture::MouseMove, this, &frmMain::picKeyboard_MouseMove);
-    Handle(panel->picKeyboard, &TwipPicture::MouseLeave, this, &frmMain::picKeyboard_MouseLeave);
+    for (TwipPicture* picture :
+         std::initializer_list<TwipPicture*>{panel->picStrings, panel->picKeyboard})
+        Handle(picture, &TwipPicture::MouseLeave, this, [this] { PointAt({}); });
+    for (QWidget* watched :
+         std::initializer_list<QWidget*>{panel->picStrings, panel->picKeyboard, lblChord})
+        watched->installEventFilter(this);
     for (int index = 0; index < InstrumentPanel::fretLabels; ++index) {
         HotLabel* label = panel->Label3[static_cast<std::size_t>(index)];
         Handle(label, &HotLabel::MouseDown, this, [this, index] { Label3_Click(index); });
         Handle(label, &HotLabel::MouseMove, this, [this, index] { Label3_MouseMove(index); });
-        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Label3_MouseLeave);
+        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Form_MouseMove);
     }
     for (int row = 0; row < stringCount; ++row) {
         HotLabel* label = panel->Label6[static_cast<std::size_t>(row)];
         Handle(label, &HotLabel::MouseDown, this,
                [this, row](Qt::MouseButton button) { Label6_MouseDown(row, button); });
         Handle(label, &HotLabel::MouseMove, this, [this, row] { Label6_MouseMove(row); });
-        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Label6_MouseLeave);
+        Handle(label, &HotLabel::MouseLeave, this, &frmMain::Form_MouseMove);
     }
 }
 
@@ -53,7 +57,7 @@ void frmMain::picStrings_MouseMove(QPointF place) {
     const auto row = FretboardLayout::RowAt(place.y());
     const auto fret = layout.FretAt(place.x());
     const bool free = !BarreDragging && !IsOnBarre(place.x());
-    PointAt(free && row && fret ? std::optional(BoardPlace{*row, *fret}) : std::nullopt, {});
+    PointAt({.place = free && row && fret ? std::optional(BoardPlace{*row, *fret}) : std::nullopt});
     const auto barre = m_workbench.ShownBarre();
     if (BarreDragging && barre)
         DoQuietly([&] { m_workbench.MoveBarre(layout.BarreStep(*barre, place.x())); });
@@ -64,39 +68,23 @@ void frmMain::picStrings_MouseUp() {
     m_history.EndGesture();
 }
 
-void frmMain::picStrings_MouseLeave() {
-    PointAt({}, {});
-}
-
 void frmMain::picKeyboard_MouseDown(Qt::MouseButton button, QPointF place) {
     if (button != Qt::LeftButton)
         Do([&] { m_workbench.ClearKeyMarks(); });
-    else if (const auto key = KeyboardLayout::KeyAt(place))
+    else if (const auto key = KeyboardLayout().KeyAt(place))
         Do([&] { m_workbench.ToggleKey(*key); });
 }
 
 void frmMain::picKeyboard_MouseMove(QPointF place) {
-    m_fretLabelLit = false;
-    ShowLabels();
-    PointAt({}, KeyboardLayout::KeyAt(place));
+    Light(false, m_stringLabelLit);
+    PointAt({.key = KeyboardLayout().KeyAt(place)});
 }
 
-void frmMain::picKeyboard_MouseLeave() {
-    PointAt({}, {});
-}
-
-void frmMain::PointAt(std::optional<BoardPlace> place, std::optional<int> key) {
-    if (m_pointed == place && m_pointedKey == key && m_restsOn == nullptr)
+void frmMain::PointAt(const Pointed& pointed) {
+    if (m_pointed == pointed)
         return;
-    m_restsOn = nullptr;
-    m_pointed = place;
-    m_pointedKey = key;
+    m_pointed = pointed;
     ShowInstruments();
-    ShowHint();
-}
-
-void frmMain::RestOn(const TwipPicture* picture) {
-    m_restsOn = picture;
     ShowHint();
 }
 
@@ -106,14 +94,7 @@ void frmMain::Label3_Click(int index) {
 
 void frmMain::Label3_MouseMove(int index) {
     LastFretLabel = index;
-    m_fretLabelLit = true;
-    m_stringLabelLit = false;
-    ShowLabels();
-}
-
-void frmMain::Label3_MouseLeave() {
-    m_fretLabelLit = false;
-    ShowLabels();
+    Light(true, false);
 }
 
 void frmMain::Label6_MouseDown(int index, Qt::MouseButton button) {
@@ -127,29 +108,35 @@ void frmMain::Label6_MouseDown(int index, Qt::MouseButton button) {
 
 void frmMain::Label6_MouseMove(int index) {
     LastStringLabel = index;
-    m_stringLabelLit = true;
-    ShowLabels();
-}
-
-void frmMain::Label6_MouseLeave() {
-    m_stringLabelLit = false;
-    ShowLabels();
+    Light(m_fretLabelLit, true);
 }
 
 void frmMain::Form_MouseMove() {
-    m_fretLabelLit = false;
-    m_stringLabelLit = false;
-    ShowLabels();
+    Light(false, false);
 }
 
-void frmMain::mouseMoveEvent(QMouseEvent*) {
-    Form_MouseMove();
+void frmMain::Light(bool fretLabel, bool stringLabel) {
+    m_fretLabelLit = fretLabel;
+    m_stringLabelLit = stringLabel;
+    ShowLabels();
 }
 
 bool frmMain::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) { // The pointer is a dialog's now.
         Form_MouseMove();
-        PointAt({}, {});
+        PointAt({});
     }
     return QWidget::event(event);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == lblChord && (event->type() == QEvent::Enter || event->type() == QEvent::Leave))
+        PointAt({.chord = event->type() == QEvent::Enter});
+    const auto* picture = qobject_cast<TwipPicture*>(watched);
+    if (picture == nullptr || event->type() != QEvent::ToolTip)
+        return QWidget::eventFilter(watched, event);
+    Pointed resting = m_pointed;
+    resting.restsOn = picture;
+    PointAt(resting);
+    return true;
 }

@@ -3,16 +3,12 @@
 #include "pictures/shapewords.h"
 #include "workbench/frmmain.h"
 
-#include <QLayout>
-
-#include <algorithm>
-
 void frmMain::ConnectVoicings() {
     Handle(lstVoicings, &VoicingList::LayAsked, this, &frmMain::lstVoicings_Click);
     Handle(lstVoicings, &VoicingList::StrumAsked, this, &frmMain::lstVoicings_DblClick);
     Handle(lstVoicings, &VoicingList::AddAsked, this,
            [this](int row) { LayAndAdd(lstVoicings->Rows().ShapeAt(row)); });
-    Handle(cmdVoicings, &GoldButton::Click, this, &frmMain::cmdVoicings_Click);
+    Handle(cmdVoicings, &GoldButton::Click, this, &frmMain::VoicingsAsked);
 }
 
 void frmMain::lstVoicings_Click(int row) {
@@ -21,10 +17,6 @@ void frmMain::lstVoicings_Click(int row) {
 
 void frmMain::lstVoicings_DblClick(int row) {
     LayAndStrum(lstVoicings->Rows().ShapeAt(row));
-}
-
-void frmMain::cmdVoicings_Click() {
-    Q_EMIT VoicingsAsked();
 }
 
 void frmMain::LayShape(const Shape& shape) {
@@ -51,45 +43,13 @@ void frmMain::StepVoicing(int step) {
 
 void frmMain::ShowVoicings() {
     const Tongue tongue = m_state.InterfaceTongue();
-    const ChordToPlay playing = m_workbench.ToPlay();
-    if (playing != m_playing || tongue != m_foundIn) {
-        m_playing = playing;
-        m_foundIn = tongue;
-        m_found = FindVoicings(playing.chord.notes, playing.chord.root, playing.chord.tuning);
-        if (playing.bass)
-            PutBassFirst(m_found.shapes, playing.chord, *playing.bass);
-        lstVoicings->Rows().Show(m_found.shapes, playing.name, tongue);
+    const Voicings& found = m_playing.Found();
+    if (m_playing.Follow(m_workbench) || lstVoicings->InTongue() != tongue) {
+        lstVoicings->Rows().Show(found.shapes, m_playing.Chord().name, tongue);
         lstVoicings->SetTongue(tongue);
     }
     lstVoicings->SetLeftHanded(m_state.LeftHanded);
     lstVoicings->SetCurrentRow(lstVoicings->Rows().RowOf(m_workbench.NeckShape()));
-    const auto count = static_cast<int>(m_found.shapes.size());
-    lblVoicings->setText(VoicingsInWords(count, m_found, playing.chord, tongue));
-}
-
-// The diagrams grow into the room that the pictures leave, half as much again at most, while
-// eight stand beside each other.
-void frmMain::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    constexpr double largest = 1.5;
-    constexpr int besideEachOther = 8;
-    const QSizeF cell = VoicingList::smallestCell;
-    const QSizeF pictures = InstrumentPanel::SizeAt(1);
-    const double room = panel->height() + lstVoicings->height() - 2 * lstVoicings->frameWidth() -
-                        pictures.height() * panel->width() / pictures.width();
-    const double width = lstVoicings->viewport()->width() / (besideEachOther * cell.width());
-    lstVoicings->SetScale(std::clamp(std::min(room / cell.height(), width), 1.0, largest));
-}
-
-// On a screen too small for it the strip goes, before the neck has to shrink.
-void frmMain::GiveStripItsRoom(int height) {
-    const auto show = [this](bool shown) {
-        lstVoicings->setVisible(shown);
-        lblVoicings->setVisible(shown);
-        cmdVoicings->setVisible(shown);
-        cmdAddDiag->setVisible(shown);
-        layout()->activate(); // It would give the sizes as they were.
-    };
-    show(true);
-    show(layout()->totalMinimumSize().height() <= height);
+    const auto count = static_cast<int>(found.shapes.size());
+    lblVoicings->setText(VoicingsInWords(count, found, m_playing.Chord().chord, tongue));
 }

@@ -44,3 +44,10 @@ void History::Forget() {
     m_before.clear();
     m_after.clear();
 }
+
+void History::LieOn(const SixTexts& notes, const SixTexts& soundNumbers, bool thinStringAtBottom) {
+    const Strings strings{notes, soundNumbers, thinStringAtBottom};
+    if (strings != m_strings)
+        Forget();
+    m_strings = strings;
+}

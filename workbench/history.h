@@ -21,12 +21,24 @@ public:
     bool Undo(Workbench& workbench);
     bool Redo(Workbench& workbench);
 
+    // The strings that the steps are done on. Other ones than before leave no steps.
+    void LieOn(const SixTexts& notes, const SixTexts& soundNumbers, bool thinStringAtBottom);
+
     void Forget();
 
 private:
+    struct Strings {
+        SixTexts notes;
+        SixTexts soundNumbers;
+        bool thinStringAtBottom = true;
+
+        bool operator==(const Strings&) const = default;
+    };
+
     static bool Step(std::vector<Workbench>& from, std::vector<Workbench>& to,
                      Workbench& workbench);
 
+    Strings m_strings;
     std::vector<Workbench> m_before;
     std::vector<Workbench> m_after;
     bool m_inGesture = false;

@@ -1,5 +1,9 @@
-// What a row of the main window's key table holds.
+// The main window's key table.
 #pragma once
+
+#include <Qt>
+
+#include <span>
 
 class frmMain;
 
@@ -15,3 +19,14 @@ struct KeyCommand {
     void (*run)(frmMain& window);
     Held held = Held::Repeats;
 };
+
+// The keys that have a command, in the order in which they are looked for: the first row that
+// fits is run. Arrows that are not among them move the focus to the fretboard.
+std::span<const KeyCommand> KeyTable();
+
+// The row of a key; null for a key that has no command.
+const KeyCommand* FindCommand(int key, int shift);
+
+constexpr bool IsArrow(int key) {
+    return key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_Left || key == Qt::Key_Right;
+}

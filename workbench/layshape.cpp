@@ -84,3 +84,14 @@ void Workbench::TakeBackMutes() {
         m_rows[row].enabled = !(*m_ownMutes)[row];
     m_ownMutes.reset();
 }
+
+std::vector<PlayersName> Workbench::NamesOfHand(const PlayersNames& names) const {
+    constexpr std::size_t mostNames = 4;
+    std::optional<CatalogueChord> chosen;
+    if (m_rootRow >= 0 && m_typeRow >= 0)
+        chosen = {m_rootRow, m_typeRow + 1};
+    const auto pitches = SoundingPitches(NeckShape(), TuningOf(*m_state));
+    std::vector<PlayersName> found = names.Of(pitches, chosen);
+    found.resize(std::min(found.size(), mostNames));
+    return found;
+}

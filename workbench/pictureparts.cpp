@@ -64,7 +64,7 @@ PicturePart KeyPart(bool marked, Tongue tongue, const KeyboardCommands& commands
     PicturePart part;
     part.role = QAccessible::CheckBox;
     part.name = KeyPartName(key, marked, tongue);
-    part.place = KeyboardLayout::KeyRect(key);
+    part.place = KeyboardLayout().KeyRect(key);
     part.checked = marked;
     part.actions = {
         {(marked ? unmark : mark).In(tongue), [&commands, key] { commands.toggle(key); }}};

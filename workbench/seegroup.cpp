@@ -1,6 +1,7 @@
 #include "workbench/seegroup.h"
 
 #include "controls/colours.h"
+#include "controls/labellook.h"
 #include "controls/newcontrols.h"
 
 #include <QGridLayout>
@@ -85,4 +86,13 @@ QLayout* SeeGroup::NoteLines() {
     lblNoS->setContentsMargins(layoutGap / 2, 0, layoutGap / 2, 0);
     Label7->setMinimumHeight(lblNoS->sizeHint().height());
     return grid;
+}
+
+void SeeGroup::ShowMissing(const MissingNotes& missing, Tongue tongue) const {
+    const Phrase rootMissing{QStringLiteral("Ни одна струна не даёт основного тона аккорда."),
+                             QStringLiteral("No string sounds the root of the chord.")};
+    lblNoS->setText(missing.text);
+    SetTextColour(lblNoS, missing.rootMissing ? Colours::mark : Colours::normalText);
+    lblNoS->setAutoFillBackground(!missing.text.trimmed().isEmpty());
+    lblNoS->setToolTip(missing.rootMissing ? rootMissing.In(tongue) : QString());
 }

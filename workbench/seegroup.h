@@ -3,6 +3,7 @@
 
 #include "controls/choicelabel.h"
 #include "controls/goldbutton.h"
+#include "music/fingering.h"
 #include "pictures/instrumentpanel.h"
 #include "pictures/voicinglist.h"
 
@@ -29,6 +30,9 @@ struct SeeGroup {
     TextLabel* lblKeys;
     TextLabel* Label7;
     TextLabel* lblNoS;
+
+    // The chord's notes that no string sounds, and a warning where the root is one of them.
+    void ShowMissing(const MissingNotes& missing, Tongue tongue) const;
 
 private:
     QLayout* ChordLine(const QWidget* window);

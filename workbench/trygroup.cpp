@@ -35,3 +35,8 @@ TryGroup::TryGroup(QWidget* window)
     barre->addWidget(lstBarre, 1, 0);
     barre->addWidget(lstLadBarre, 1, 1);
 }
+
+void TryGroup::ShowRows(const Workbench& workbench) const {
+    lstBarre->ShowRow(workbench.BarreStringsRow());
+    lstLadBarre->ShowRow(workbench.BarreFretRow());
+}

@@ -3,6 +3,7 @@
 
 #include "controls/dropdown.h"
 #include "controls/goldbutton.h"
+#include "workbench/workbench.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -22,4 +23,7 @@ struct TryGroup {
     GoldButton* cmdMakeBarre;
     DropDown* lstBarre;
     DropDown* lstLadBarre;
+
+    // The rows that are chosen.
+    void ShowRows(const Workbench& workbench) const;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "music/fingering.h"
+#include "music/names.h"
 #include "music/pianokeys.h"
 #include "music/shape.h"
 #include "music/voicingchoice.h"
@@ -105,6 +106,10 @@ public:
     Shape NeckShape() const;
 
     ChordToPlay ToPlay() const;
+
+    // What players call what sounds, best first, at most four names; the chosen chord's first
+    // where it has every note.
+    std::vector<PlayersName> NamesOfHand(const PlayersNames& names) const;
 
     // The note of a row stopped at a fret; empty where the open note is no note.
     std::optional<PitchClass> NoteAt(int row, int fret) const;

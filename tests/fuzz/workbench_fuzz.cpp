@@ -129,7 +129,7 @@ void Do(Machine& machine, char command, int n) {
         return workbench.ToggleMute(n % stringCount);
     case 'k':
         if (const auto key =
-                KeyboardLayout::KeyAt({KeyboardLayout::size.width() * across, n % 2 * 1500.0}))
+                KeyboardLayout().KeyAt({KeyboardLayout::size.width() * across, n % 2 * 1500.0}))
             workbench.ToggleKey(*key);
         return;
     case 'K':

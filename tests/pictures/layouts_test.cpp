@@ -148,8 +148,8 @@ void LayoutsTest::TheOtherHandIsTheMirrorImage() {
 }
 
 void LayoutsTest::KeyRects() {
-    QCOMPARE(KeyboardLayout::KeyRect(0), QRectF(0, 0, 375, 1575));
-    QCOMPARE(KeyboardLayout::KeyRect(35), QRectF(7200, 0, 375, 1575));
+    QCOMPARE(KeyboardLayout().KeyRect(0), QRectF(0, 0, 375, 1575));
+    QCOMPARE(KeyboardLayout().KeyRect(35), QRectF(7200, 0, 375, 1575));
     const QList<double> blackLefts{240, 600, 1320, 1680, 2040};
     qsizetype black = 0;
     for (int key = 0; key < keyCount; ++key) {
@@ -157,7 +157,7 @@ void LayoutsTest::KeyRects() {
             continue;
         const qsizetype octave = black / 5;
         QCOMPARE(
-            KeyboardLayout::KeyRect(key),
+            KeyboardLayout().KeyRect(key),
             QRectF(blackLefts[black % 5] + 2520.0 * static_cast<double>(octave), 0, 255, 1095));
         ++black;
     }
@@ -166,28 +166,28 @@ void LayoutsTest::KeyRects() {
 
 void LayoutsTest::KeysByZone() {
     for (int zone = 0; zone < 63; ++zone)
-        QCOMPARE(KeyboardLayout::KeyAt({zone * 123 + 61.0, 500}),
+        QCOMPARE(KeyboardLayout().KeyAt({zone * 123 + 61.0, 500}),
                  std::optional<int>(KeyZoneNotes[static_cast<std::size_t>(zone)]));
-    QCOMPARE(KeyboardLayout::KeyAt({123, 500}), std::nullopt);
-    QCOMPARE(KeyboardLayout::KeyAt({7700, 500}), std::optional(0)); // The last zone leads back.
-    QCOMPARE(KeyboardLayout::KeyAt({7749, 500}), std::nullopt);
+    QCOMPARE(KeyboardLayout().KeyAt({123, 500}), std::nullopt);
+    QCOMPARE(KeyboardLayout().KeyAt({7700, 500}), std::optional(0)); // The last zone leads back.
+    QCOMPARE(KeyboardLayout().KeyAt({7749, 500}), std::nullopt);
 }
 
 void LayoutsTest::KeysBelow() {
-    QCOMPARE(KeyboardLayout::KeyAt({10, 1200}), std::optional(0));
-    QCOMPARE(KeyboardLayout::KeyAt({360, 1200}), std::nullopt);
-    QCOMPARE(KeyboardLayout::KeyAt({361, 1200}), std::optional(2));
-    QCOMPARE(KeyboardLayout::KeyAt({7559, 1200}), std::optional(35));
-    QCOMPARE(KeyboardLayout::KeyAt({7570, 1200}), std::nullopt);
-    QCOMPARE(KeyboardLayout::KeyAt({10, 1095}), std::nullopt);
-    QCOMPARE(KeyboardLayout::KeyAt({10, 1094.9}), std::optional(0));
+    QCOMPARE(KeyboardLayout().KeyAt({10, 1200}), std::optional(0));
+    QCOMPARE(KeyboardLayout().KeyAt({360, 1200}), std::nullopt);
+    QCOMPARE(KeyboardLayout().KeyAt({361, 1200}), std::optional(2));
+    QCOMPARE(KeyboardLayout().KeyAt({7559, 1200}), std::optional(35));
+    QCOMPARE(KeyboardLayout().KeyAt({7570, 1200}), std::nullopt);
+    QCOMPARE(KeyboardLayout().KeyAt({10, 1095}), std::nullopt);
+    QCOMPARE(KeyboardLayout().KeyAt({10, 1094.9}), std::optional(0));
 }
 
 void LayoutsTest::FreeAreas() {
     for (int key = 0; key < keyCount; ++key) {
         if (!IsBlackKey(key)) {
-            const QPointF middle = KeyboardLayout::FreeArea(key).center();
-            QCOMPARE(KeyboardLayout::KeyAt(middle), std::optional(key));
+            const QPointF middle = KeyboardLayout().FreeArea(key).center();
+            QCOMPARE(KeyboardLayout().KeyAt(middle), std::optional(key));
         }
     }
 }

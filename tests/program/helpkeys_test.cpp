@@ -1,7 +1,7 @@
 // The manual's page of keys against the main window's key table.
 #include "core/codepage.h"
 #include "info/helpchapters.h"
-#include "workbench/frmmain.h"
+#include "workbench/keytable.h"
 
 #include <QFile>
 #include <QKeySequence>
@@ -42,7 +42,7 @@ QString NameOf(const KeyCommand& row, Tongue tongue) {
 
 QSet<QString> KeysOfTable(Tongue tongue) {
     QSet<QString> keys;
-    for (const KeyCommand& row : frmMain::KeyTable())
+    for (const KeyCommand& row : KeyTable())
         keys += NameOf(row, tongue);
     return keys;
 }

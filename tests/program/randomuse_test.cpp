@@ -205,7 +205,7 @@ void RandomUseTest::CheckPictures() {
     const auto* piano = Window().panel->picKeyboard;
     const QImage keys = Window().panel->picKeyboard->grab().toImage();
     for (int key = 0; key < keyCount; ++key)
-        QCOMPARE(pixel(keys, *piano, KeyboardLayout::FreeArea(key).center()) == red,
+        QCOMPARE(pixel(keys, *piano, KeyboardLayout().FreeArea(key).center()) == red,
                  State().Keys().IsMarked(key));
     const auto* neck = Window().panel->picStrings;
     const QImage board = Window().panel->picStrings->grab().toImage();

@@ -9,6 +9,7 @@
 #include "support/watchdog.h"
 #include "workbench/frmmain.h"
 
+#include <QScreen>
 #include <QTest>
 
 struct MainWindow {
@@ -21,7 +22,7 @@ struct MainWindow {
         window.ShowRoots();
         window.ShowScales();
         window.SelectDefaults();
-        window.OpenAtBestSize();
+        window.OpenAtBestSize(window.screen()->availableGeometry().size());
         window.show();
         if (!QTest::qWaitForWindowActive(&window))
             qFatal("the window does not come up");

@@ -101,11 +101,11 @@ void FrmMainTest::ChoosingByMouse() {
 }
 
 void FrmMainTest::ClickingTheSelectedRowAgain() {
-    m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(2).center());
+    m_main->Click(m_main->keyboard, KeyboardLayout().FreeArea(2).center());
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C D E G "));
     m_main->ClickRow(m_main->window.lstType, 0);
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C E G "));
-    m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(2).center());
+    m_main->Click(m_main->keyboard, KeyboardLayout().FreeArea(2).center());
     m_main->ClickRow(m_main->window.lstBase, 0);
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C E G "));
 }
@@ -140,7 +140,7 @@ void FrmMainTest::FindingAType() {
     QTest::mouseClick(m_main->window.cmdFind, Qt::LeftButton);
     QCOMPARE(m_main->window.lstType->Row(), 2);
     QCOMPARE(m_main->Text(QStringLiteral("lblChord")), QStringLiteral("Caug"));
-    m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(2).center());
+    m_main->Click(m_main->keyboard, KeyboardLayout().FreeArea(2).center());
     QTest::mouseClick(m_main->window.cmdFind, Qt::LeftButton); // Found again: spelled again.
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C E G# "));
 }

@@ -44,10 +44,10 @@ private:
 void InstrumentsTest::KeysByMouse() {
     m_main->Click(m_main->keyboard, {1, 1}, Qt::RightButton);
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QString());
-    m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(9).center());
+    m_main->Click(m_main->keyboard, KeyboardLayout().FreeArea(9).center());
     m_main->Click(m_main->keyboard, {123 * 1.5, 100}); // A zone of C#.
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QStringLiteral("C# A "));
-    m_main->Click(m_main->keyboard, KeyboardLayout::FreeArea(9).center());
+    m_main->Click(m_main->keyboard, KeyboardLayout().FreeArea(9).center());
     m_main->Click(m_main->keyboard, {123 * 1.5, 100});
     QCOMPARE(m_main->Text(QStringLiteral("lblKeys")), QString());
     QCOMPARE(m_main->workbench.Keys().Fill(1), blackKeyColour);
@@ -68,7 +68,7 @@ void InstrumentsTest::MarksArePainted() {
     for (int key = 0; key < keyCount; ++key) {
         const bool marked = key == 0 || key == 4 || key == 7;
         const QColor own = IsBlackKey(key) ? Colours::blackKey : Colours::whiteKey;
-        QCOMPARE(m_main->Pixel(m_main->keyboard, KeyboardLayout::FreeArea(key).center()),
+        QCOMPARE(m_main->Pixel(m_main->keyboard, KeyboardLayout().FreeArea(key).center()),
                  marked ? Colours::mark : own);
     }
     QCOMPARE(m_main->Pixel(m_main->board, FretboardLayout().MarkCentre(1, 1)), Colours::mark);
@@ -101,7 +101,7 @@ void InstrumentsTest::PressBesideTheRows() {
 }
 
 void InstrumentsTest::DoubleClickIsTwoPresses() {
-    const QPointF place = KeyboardLayout::FreeArea(2).center();
+    const QPointF place = KeyboardLayout().FreeArea(2).center();
     m_main->Click(m_main->keyboard, place);
     QVERIFY(m_main->workbench.Keys().IsMarked(2));
     QMouseEvent second(QEvent::MouseButtonDblClick, place * m_main->keyboard->Scale(), {},

@@ -123,13 +123,13 @@ void PicturePartsTest::PartsFollowTheScale() {
     const QRect after = Of(m_main->keyboard)->child(0)->rect();
     QVERIFY(after.width() > before.width());
     const auto* piano = m_main->keyboard;
-    const QRectF place = piano->ToPixels(KeyboardLayout::KeyRect(0));
+    const QRectF place = piano->ToPixels(KeyboardLayout().KeyRect(0));
     QCOMPARE(after.topLeft(), piano->mapToGlobal(place.toRect().topLeft()));
 }
 
 void PicturePartsTest::PartsAreFoundByPlace() {
     for (int key = 0; key < keyCount; ++key) {
-        const QPointF middle = KeyboardLayout::FreeArea(key).center();
+        const QPointF middle = KeyboardLayout().FreeArea(key).center();
         const QPoint place =
             m_main->keyboard->mapToGlobal((middle * m_main->keyboard->Scale()).toPoint());
         auto* piano = Of(m_main->keyboard);
@@ -293,7 +293,7 @@ void PicturePartsTest::ToggleIsAPress() {
 }
 
 void PicturePartsTest::APointedKeyShowsItsNote() {
-    m_main->Move(m_main->keyboard, KeyboardLayout::FreeArea(16).center());
+    m_main->Move(m_main->keyboard, KeyboardLayout().FreeArea(16).center());
     QCOMPARE(Hint(), QStringLiteral("E, октава 2, большая терция"));
     m_main->Move(m_main->board, {480, 300});
     QCOMPARE(Hint(), QString());

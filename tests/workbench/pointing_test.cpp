@@ -152,8 +152,8 @@ void PointingTest::ARightPressLeavesTheFocus() {
 void PointingTest::TheRingStaysOffTheBlackKeys() {
     m_main->keyboard->setFocus(Qt::TabFocusReason);
     QTest::keyClick(m_main->keyboard, Qt::Key_Home); // The lowest C,
-    QVERIFY(RingPixels(m_main->keyboard, KeyboardLayout::FreeArea(0)) > 20);
-    const QRectF black = KeyboardLayout::KeyRect(1); // and C# over it.
+    QVERIFY(RingPixels(m_main->keyboard, KeyboardLayout().FreeArea(0)) > 20);
+    const QRectF black = KeyboardLayout().KeyRect(1); // and C# over it.
     QCOMPARE(RingPixels(m_main->keyboard, black.adjusted(20, 0, -20, -20)), 0);
 }
 

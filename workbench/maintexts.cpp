@@ -1,6 +1,8 @@
-// The main window's texts, control by control.
-#include "controls/windowtexts.h"
-#include "workbench/frmmain.h"
+#include "workbench/maintexts.h"
+
+#include "workbench/workbench.h"
+
+#include <array>
 
 namespace {
 
@@ -94,6 +96,6 @@ constexpr std::array texts{
 
 } // namespace
 
-void frmMain::ShowTexts(const TextSource& source) {
-    ApplyTexts(*this, texts, QStringLiteral("Main"), source);
+std::span<const WindowText> MainTexts() {
+    return texts;
 }
