@@ -66,14 +66,13 @@ QFileInfo Target(const QString& path) {
 }
 
 bool Rewrite(QFile& file, const QByteArray& bytes) {
-    return file.seek(0) && file.write(bytes) == bytes.size() && file.flush() &&
-           file.resize(bytes.size());
+    return file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size());
 }
 
 // Where it fails half way the old bytes, for which there was room, are put back.
 std::optional<Phrase> WriteInPlace(const QString& path, const QByteArray& bytes) {
     QFile file(path);
-    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
         const QByteArray before = file.readAll();
         if (Rewrite(file, bytes))
             return std::nullopt;
@@ -117,9 +116,10 @@ std::optional<Phrase> ReplaceFile(const QString& path, const QByteArray& bytes) 
     if (target.exists() && !target.isFile())
         return UnwritableFile(path, WhyUnwritable(target, bytes.size(), {}));
     QSaveFile file(path);
-    const bool opened = file.open(QIODevice::WriteOnly);
+    // A disk that fills up takes the first part and calls that no error; a buffer would not see
+    // it either.
+    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     const qint64 written = opened ? file.write(bytes) : -1;
-    // A disk that fills up takes the first part and calls that no error.
     if (written >= 0 && written < bytes.size())
         return UnwritableFile(path, {QStringLiteral("места хватило только на его часть"),
                                      QStringLiteral("there is room only for a part of it")});

@@ -85,7 +85,7 @@ public:
     GoldButton* cmdExport;
     GoldButton* cmdImport;
     GoldButton* cmdPrint;
-    QLabel* lblSaved; // Says that the file was saved, until the text changes.
+    QLabel* lblSaved; // Says that a file was saved or exported, until the text changes.
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -114,7 +114,7 @@ private:
     SheetQuestions Questions() const;
     QString SongTitle(const QString& otherwise) const;
     bool MayWritePages(const QString& path, int pages);
-    void ExportPages(const ExportChoice& choice);
+    bool ExportPages(const ExportChoice& choice); // False when it is given up.
     void BringBack(const SheetContents& contents);
     void Kept();     // Brings the recovery file up to date...
     void KeepSoon(); // ...or does so within five seconds.

@@ -92,23 +92,29 @@ void frmDiags::cmdExport_Click() {
     m_folder = QFileInfo(choice.path).absolutePath();
     if (choice.format == ExportFormat::ChordPro)
         WriteChordProFile(choice.path, ChordProText(txtMain->Text(), Questions()));
-    else
-        ExportPages(choice);
+    else if (!ExportPages(choice))
+        return;
+    lblSaved->setText(Phrase{QStringLiteral("Экспортировано в файл «%1»."),
+                             QStringLiteral("Exported to the file “%1”.")}
+                          .In(m_state.InterfaceTongue())
+                          .arg(QFileInfo(choice.path).fileName()));
     txtMain->setFocus();
 }
 
-void frmDiags::ExportPages(const ExportChoice& choice) {
+bool frmDiags::ExportPages(const ExportChoice& choice) {
     const QSizeF paper = PaperOfLocale();
     const std::vector<SheetPage> pages = PagesOn(paper);
     const QString title = SongTitle(QFileInfo(choice.path).completeBaseName());
+    if (choice.format != ExportFormat::Pdf &&
+        !MayWritePages(choice.path, static_cast<int>(pages.size())))
+        return false;
     if (choice.format == ExportFormat::Pdf)
-        return ExportPdf(choice.path, Painted(pages, paper), title, LoadPrinting(m_state.AppPath));
-    if (!MayWritePages(choice.path, static_cast<int>(pages.size())))
-        return;
-    if (choice.format == ExportFormat::Svg)
+        ExportPdf(choice.path, Painted(pages, paper), title, LoadPrinting(m_state.AppPath));
+    else if (choice.format == ExportFormat::Svg)
         ExportSvg(choice.path, Painted(pages, paper), title, LoadPrinting(m_state.AppPath));
     else
         ExportPng(choice.path, pages, paper);
+    return true;
 }
 
 // The dialog has asked only about the first.

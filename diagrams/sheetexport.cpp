@@ -15,12 +15,22 @@ namespace {
 constexpr double pixelsPerTwip = 2.0 / 20;
 constexpr double twipsPerPoint = 20;
 
-void Write(const QString& path, const QByteArray& bytes) {
-    if (bytes.isEmpty())
-        throw RunTimeError({QStringLiteral("Не удаётся подготовить файл «%1».").arg(path),
-                            QStringLiteral("The file “%1” cannot be made.").arg(path)});
-    if (const auto failure = ReplaceFile(path, bytes))
-        throw RunTimeError(*failure);
+// All that is to be written is made before the first file is replaced.
+void Write(const QStringList& paths, const QList<QByteArray>& files) {
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        if (files[i].isEmpty())
+            throw RunTimeError({QStringLiteral("Не удаётся подготовить файл «%1».").arg(paths[i]),
+                                QStringLiteral("The file “%1” cannot be made.").arg(paths[i])});
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        if (const auto failure = ReplaceFile(paths[i], files[i]))
+            throw RunTimeError(*failure);
+}
+
+QByteArray PngOf(const QImage& image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    return image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
 } // namespace
@@ -64,27 +74,24 @@ QStringList PageFiles(const QString& path, int pages) {
 
 void ExportPdf(const QString& path, const PaintedPages& pages, const QString& title,
                const Printing& printing) {
-    Write(path, printing.Pdf(pages, title));
+    Write({path}, {printing.Pdf(pages, title)});
 }
 
 void ExportSvg(const QString& path, const PaintedPages& pages, const QString& title,
                const Printing& printing) {
-    const QStringList files = PageFiles(path, pages.count);
+    QList<QByteArray> files;
     for (int page = 0; page < pages.count; ++page)
-        Write(files[page], printing.Svg(pages, page, title));
+        files += printing.Svg(pages, page, title);
+    Write(PageFiles(path, pages.count), files);
 }
 
 void WriteImage(const QString& path, const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG"))
-        bytes.clear();
-    Write(path, bytes);
+    Write({path}, {PngOf(image)});
 }
 
 void ExportPng(const QString& path, const std::vector<SheetPage>& pages, QSizeF paper) {
-    const QStringList files = PageFiles(path, static_cast<int>(pages.size()));
-    for (std::size_t page = 0; page < pages.size(); ++page)
-        WriteImage(files[static_cast<qsizetype>(page)], PageImage(pages[page], paper));
+    QList<QByteArray> files;
+    for (const SheetPage& page : pages)
+        files += PngOf(PageImage(page, paper));
+    Write(PageFiles(path, static_cast<int>(pages.size())), files);
 }

@@ -126,6 +126,7 @@ void VoicingList::contextMenuEvent(QContextMenuEvent* event) {
     const QModelIndex index = byMouse ? indexAt(event->pos()) : currentIndex();
     if (!index.isValid())
         return;
+    BringIntoView(index.row());
     ShowMenu(index,
              byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(index).center()));
 }
@@ -145,7 +146,7 @@ void VoicingList::ShowMenu(const QModelIndex& index, QPoint place) {
         [this, row] { Q_EMIT LayAsked(row); });
     add(words(QStringLiteral("Взять и ударить по струнам"), QStringLiteral("Lay and strum")),
         [this, row] { Q_EMIT StrumAsked(row); });
-    add(words(QStringLiteral("Добавить в список схем"), QStringLiteral("Add to the sheet")),
+    add(words(QStringLiteral("Добавить на лист диаграмм"), QStringLiteral("Add to the sheet")),
         [this, row] { Q_EMIT AddAsked(row); });
     add(words(QStringLiteral("Копировать %1"), QStringLiteral("Copy %1")).arg(text),
         [this, row] { Q_EMIT CopyAsked(row); });

@@ -2,11 +2,14 @@
 #include "diagrams/printing.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QSvgGenerator>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +41,17 @@ bool PaintOn(QPrinter& printer, const std::function<PaintedPages(QSizeF paper)>&
     const QSizeF paper = printer.paperRect(QPrinter::Point).size() * twipsPerPoint;
     return PaintAll(printer, pages(paper),
                     printer.resolution() / static_cast<double>(twipsPerInch));
+}
+
+// A PDF that was printed to is whole only with its end; the toolkit does not say. No file is
+// whole, too.
+bool IsWhole(const QString& path) {
+    constexpr qint64 tail = 16;
+    QFile file(path);
+    if (path.isEmpty() || !path.endsWith(u".pdf", Qt::CaseInsensitive))
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - tail)) &&
+           file.readAll().contains("%%EOF");
 }
 
 class ToolkitPrinting : public Printing {
@@ -84,8 +98,9 @@ public:
         bool printed = true;
         QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                          [&](QPrinter* asked) { printed = PaintOn(*asked, pages) && printed; });
-        dialog.exec();
-        return printed && printer.printerState() != QPrinter::Error;
+        const bool asked = dialog.exec() == QDialog::Accepted;
+        return printed && printer.printerState() != QPrinter::Error &&
+               (!asked || IsWhole(printer.outputFileName()));
     }
 };
 

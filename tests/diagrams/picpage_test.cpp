@@ -135,6 +135,7 @@ private Q_SLOTS:
         Show(QStringLiteral("Am - 012200\nПривет"));
         AnswerFile(name);
         Click(m_sheet->cmdExport);
+        QVERIFY(m_sheet->lblSaved->text().contains(u"«" + written + u"»"));
         QCOMPARE(Bytes(written).first(beginning.size()), beginning);
         QCOMPARE(m_folder->Names(), QStringList(written));
     }
@@ -158,6 +159,7 @@ private Q_SLOTS:
         QVERIFY(box.text.contains(QStringLiteral("s-2.svg")));
         QCOMPARE(Bytes(QStringLiteral("s-2.svg")) != "old", replaced);
         QCOMPARE(Bytes(QStringLiteral("s.svg")) != "(missing)", replaced);
+        QCOMPARE(!m_sheet->lblSaved->text().isEmpty(), replaced);
     }
 
     void ExportsThatFailAreReported() {

@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 #include <QTest>
 
+constexpr QSizeF paper(11900, 16840);
+
 class SheetExportTest : public QObject {
     Q_OBJECT
 
@@ -24,11 +26,26 @@ private Q_SLOTS:
     void PdfHasItsPagesAndFonts();
     void PngHasTwoPixelsToAPoint();
     void TheSameBytesTwice();
+    void TheSamePagesInTwoRuns();
     void FileNames_data();
     void FileNames();
     void WhereNothingCanBeWritten();
     void OldFilesStayWhereWritingFails();
     void WithoutTheLibrary();
+
+public:
+    // A song of two pages in each format.
+    static int ExportAll(const QString& path) {
+        const QString song =
+            QStringLiteral("{title: Песня}\n[Am]x [F]y\n{define: F frets 1 3 3 2 1 1}\n"
+                           "Am - 012200 F - Б1/001220 \n{soc}\n[C]Привет\n{eoc}\n{np}\nnext");
+        const auto pages = LayOutSheet(ReadSheetText(song, {}), {paper, false, FontWidths()});
+        const PaintedPages painted = Painted(pages, paper);
+        ExportPdf(path + QStringLiteral(".pdf"), painted, QString(), Library());
+        ExportSvg(path + QStringLiteral(".svg"), painted, QString(), Library());
+        ExportPng(path + QStringLiteral(".png"), pages, paper);
+        return 0;
+    }
 
 private:
     static const Printing& Library() { return LoadPrinting(QStringLiteral(TONVIK_PRINT_FOLDER)); }
@@ -41,8 +58,6 @@ private:
 };
 
 namespace {
-
-constexpr QSizeF paper(11900, 16840);
 
 // A library that makes nothing.
 class NoPrinting : public Printing {
@@ -185,6 +200,28 @@ void SheetExportTest::TheSameBytesTwice() {
     QCOMPARE(bytes(QStringLiteral("x2")), first);
 }
 
+void SheetExportTest::TheSamePagesInTwoRuns() {
+    const auto run = [this](const QString& name) {
+        QProcess process;
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--export"), m_folder.Path(name)});
+        process.waitForFinished();
+        const QString pdf = name + QStringLiteral(".pdf");
+        process.start(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("60"),
+                                                   m_folder.Path(pdf), m_folder.Path(pdf)});
+        process.waitForFinished();
+        return QList<QByteArray>{
+            Bytes(pdf + QStringLiteral("-1.ppm")), Bytes(pdf + QStringLiteral("-2.ppm")),
+            Bytes(name + QStringLiteral(".svg")),  Bytes(name + QStringLiteral("-2.svg")),
+            Bytes(name + QStringLiteral(".png")),  Bytes(name + QStringLiteral("-2.png"))};
+    };
+    const auto first = run(QStringLiteral("y1"));
+    for (const QByteArray& page : first)
+        QVERIFY(page.size() > 1000);
+    QVERIFY(first[0] != first[1]);
+    QVERIFY(run(QStringLiteral("y2")) == first);
+}
+
 void SheetExportTest::FileNames_data() {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("second");
@@ -240,6 +277,9 @@ int main(int argc, char** argv) {
         }
         return 0;
     }
+    if (const qsizetype given = QCoreApplication::arguments().indexOf(QStringLiteral("--export"));
+        given > 0)
+        return SheetExportTest::ExportAll(QCoreApplication::arguments().at(given + 1));
     SheetExportTest test;
     return QTest::qExec(&test, argc, argv);
 }

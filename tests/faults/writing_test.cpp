@@ -31,18 +31,24 @@ private Q_SLOTS:
 
     void AFullDisk_data() {
         QTest::addColumn<uint>("room");
-        QTest::newRow("no room at all") << 0U;
-        QTest::newRow("room for the first part") << 4096U;
-        QTest::newRow("room for all but a byte") << 20'000U - 1;
+        QTest::addColumn<qsizetype>("size");
+        constexpr qsizetype large = 20'000;
+        constexpr qsizetype small = 1000; // Less than what is written at a time.
+        QTest::newRow("no room at all") << 0U << large;
+        QTest::newRow("room for the first part") << 4096U << large;
+        QTest::newRow("room for all but a byte") << 20'000U - 1 << large;
+        QTest::newRow("no room for a small file") << 0U << small;
+        QTest::newRow("room for a part of a small file") << 100U << small;
     }
     void AFullDisk() {
         QFETCH(const uint, room);
+        QFETCH(const qsizetype, size);
         std::optional<Phrase> failure;
         {
             const LittleRoom little(room);
             if (!little.Holds())
                 QSKIP("The size of a file cannot be limited here.");
-            failure = ReplaceFile(m_folder->Path(file), QByteArray(20'000, 'x'));
+            failure = ReplaceFile(m_folder->Path(file), QByteArray(size, 'x'));
         }
         QVERIFY(Says(failure, QStringLiteral("Не удаётся записать файл"),
                      QStringLiteral("cannot be written")));
@@ -117,7 +123,13 @@ private Q_SLOTS:
         QCOMPARE(m_folder->Names(), QStringList{file});
     }
 
+    void AFullDiskUnderAFileWrittenInPlace_data() {
+        QTest::addColumn<qsizetype>("size");
+        QTest::newRow("a large file") << qsizetype{20'000};
+        QTest::newRow("a small file") << qsizetype{1000};
+    }
     void AFullDiskUnderAFileWrittenInPlace() {
+        QFETCH(const qsizetype, size);
         OpenToAll();
         std::optional<Phrase> failure;
         {
@@ -125,7 +137,7 @@ private Q_SLOTS:
             const LittleRoom little(100);
             if (!user.Holds() || !little.Holds())
                 QSKIP("Nobody is kept out here.");
-            failure = ReplaceFile(m_folder->Path(file), QByteArray(20'000, 'x'));
+            failure = ReplaceFile(m_folder->Path(file), QByteArray(size, 'x'));
         }
         QVERIFY(Says(failure, file, file));
         QFile::setPermissions(m_folder->Path(), readable | QFileDevice::WriteOwner);
