@@ -130,6 +130,8 @@ private:
     }
 };
 
+Scheme desktopScheme = Scheme::Light;
+
 QPalette ThemePalette() {
     QPalette palette(Colours::buttonFace.Now(), Colours::window.Now());
     palette.setColor(QPalette::WindowText, Colours::text);
@@ -156,8 +158,18 @@ QPalette ThemePalette() {
 } // namespace
 
 void ApplyTheme() {
+    desktopScheme = SchemeOfWindows(QApplication::palette());
     QApplication::setStyle(new Style);
-    ShowScheme(Scheme::Light);
+    ShowScheme(desktopScheme);
+}
+
+Scheme DesktopScheme() {
+    return desktopScheme;
+}
+
+Scheme SchemeOfWindows(const QPalette& palette) {
+    constexpr int middle = 128;
+    return palette.color(QPalette::Window).lightness() < middle ? Scheme::Dark : Scheme::Light;
 }
 
 void ShowScheme(Scheme scheme) {

@@ -3,8 +3,16 @@
 
 #include "controls/colours.h"
 
-// Gives the application its own style and its light colours on any desktop.
+class QPalette;
+
+// Gives the application its own style, and the scheme that goes with the desktop's windows.
 void ApplyTheme();
+
+// What the desktop's windows had when the theme was applied.
+Scheme DesktopScheme();
+
+// The scheme that goes with a palette, by how light its windows are.
+Scheme SchemeOfWindows(const QPalette& palette);
 
 // Shows all windows, also those that are open, in the scheme.
 void ShowScheme(Scheme scheme);

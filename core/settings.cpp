@@ -11,11 +11,19 @@ const QString userKey = QStringLiteral("User");
 const QString tuningRowKey = QStringLiteral("UserN");
 const QString languageKey = QStringLiteral("Language");
 const QString leftHandedKey = QStringLiteral("LeftHanded");
+const QString schemeKey = QStringLiteral("Scheme");
 const QString switchedOn = QStringLiteral("1");
 const QString defaultOfOwnKeys = QStringLiteral("0");
 
 QString KeyOf(std::size_t string, QChar kind) {
     return QString::number(string + 1) + kind;
+}
+
+SchemeChoice SchemeOf(const QString& text) {
+    for (const auto scheme : {SchemeChoice::Light, SchemeChoice::Dark})
+        if (text == QString::number(static_cast<int>(scheme)))
+            return scheme;
+    return SchemeChoice::AsDesktop;
 }
 
 // A key that the program adds to the format.
@@ -53,6 +61,7 @@ Settings ReadSettings(const ProfileFile& file) {
     read(settingsSection, tuningRowKey, settings.tuningRow);
     settings.language = file.Value(settingsSection, languageKey);
     settings.leftHanded = file.Value(settingsSection, leftHandedKey) == switchedOn;
+    settings.scheme = SchemeOf(file.Value(settingsSection, schemeKey).value_or(QString()));
     for (std::size_t i = 0; i < stringCount; ++i) {
         read(stringsSection, KeyOf(i, u'S'), settings.strings.notes[i]);
         read(stringsSection, KeyOf(i, u'K'), settings.strings.soundNumbers[i]);
@@ -71,6 +80,7 @@ void WriteSettings(ProfileFile& file, const Settings& settings) {
     if (settings.language)
         file.SetValue(settingsSection, languageKey, *settings.language);
     WriteOwn(file, leftHandedKey, settings.leftHanded ? switchedOn : defaultOfOwnKeys);
+    WriteOwn(file, schemeKey, QString::number(static_cast<int>(settings.scheme)));
 }
 
 bool CanBeRemembered(const QString& language) {

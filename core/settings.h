@@ -28,6 +28,9 @@ struct OpenStrings {
 
 extern const OpenStrings standardStrings; // E B G D A E
 
+// In which colours the windows are shown: the value of "Scheme" in the section "Settings".
+enum class SchemeChoice { AsDesktop, Light, Dark };
+
 // Everything that the settings file holds; its defaults are those of a missing file. Values
 // are not checked.
 struct Settings {
@@ -36,6 +39,7 @@ struct Settings {
     OpenStrings strings = standardStrings;
     std::optional<QString> language; // A file beside the program; empty where the file is silent.
     bool leftHanded = false;
+    SchemeChoice scheme = SchemeChoice::AsDesktop; // For whoever shows windows.
 
     QString Language() const { return language.value_or(defaultLanguage); }
     bool HasUserTuning() const {
@@ -57,5 +61,6 @@ bool CanBeRemembered(const QString& language);
 // row 0, the lowest, takes string 1, otherwise string 6.
 void LayStrings(AppState& state, const OpenStrings& strings, bool thinStringAtBottom);
 
-// Puts the settings into force, all but the language, which waits for the next start.
+// Puts the settings into force, but for the language, which waits for the next start, and the
+// scheme, which is seen and not known here.
 void UseSettings(AppState& state, const Settings& settings);

@@ -2,6 +2,7 @@
 
 #include "controls/application.h"
 #include "controls/handle.h"
+#include "controls/theme.h"
 #include "controls/windowtexts.h"
 #include "core/language.h"
 #include "core/profile.h"
@@ -18,6 +19,22 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
+
+namespace {
+
+Scheme SchemeFor(SchemeChoice choice) {
+    switch (choice) {
+    case SchemeChoice::Light:
+        return Scheme::Light;
+    case SchemeChoice::Dark:
+        return Scheme::Dark;
+    case SchemeChoice::AsDesktop:
+        break;
+    }
+    return DesktopScheme();
+}
+
+} // namespace
 
 StartUp::StartUp(Application& application, const QString& folder)
     : StartUp(application, folder, std::make_unique<MidiAPI>(FolderPath(folder)),
@@ -36,6 +53,7 @@ StartUp::~StartUp() = default;
 
 void StartUp::Main() {
     const Settings settings = ReadSettings(ProfileFile::Read(m_state.SettingsFile()));
+    ShowScheme(SchemeFor(settings.scheme));
     // A report of what comes before the language is loaded speaks it already.
     m_application.SetTongue(FindLanguage(m_state, settings.Language()) == LanguageChoice::File
                                 ? Tongue::English
@@ -118,6 +136,7 @@ void StartUp::ShowSettings() {
         m_state, *m_midi, *m_clock,
         [this](const Settings& settings) {
             UseSettings(m_state, settings);
+            ShowScheme(SchemeFor(settings.scheme));
             m_window->StringsChanged();
         },
         m_window.get());

@@ -75,6 +75,7 @@ void frmSettings::LoadDialogSettings() {
     chosen->setChecked(true);
     chosen->setFocus();
     Check2->setChecked(m_loaded.leftHanded);
+    lstScheme->ShowRow(static_cast<int>(m_loaded.scheme));
     // A tuning that is not there must not cost the strings.
     if (m_loaded.HasUserTuning())
         Application::Guard([this] { SelectTuning(m_loaded.tuningRow); });
@@ -250,6 +251,7 @@ Settings frmSettings::DialogSettings() const {
         settings.strings.soundNumbers[i] = Tag(Text1[i]);
     }
     settings.leftHanded = Check2->isChecked();
+    settings.scheme = static_cast<SchemeChoice>(lstScheme->currentIndex());
     return settings;
 }
 

@@ -2,7 +2,9 @@
 // of the six strings and hands it over at OK.
 #pragma once
 
+#include "controls/dropdown.h"
 #include "controls/listbox.h"
+#include "controls/textlabel.h"
 #include "controls/upscrollbar.h"
 #include "core/settings.h"
 #include "sound/sound.h"
@@ -63,6 +65,10 @@ public:
     ListBox* lstTunings;
     QCheckBox* Check1;
     QCheckBox* Check2;
+    TextLabel* lblScheme;
+    DropDown* lstScheme;
+    TextLabel* lblNote;   // Over the bars that choose a string's note...
+    TextLabel* lblOctave; // ...and its octave.
     QPushButton* cmdOK;
     QPushButton* cmdCancel;
     std::array<QRadioButton*, 4> Options;          // Option1 to Option4.
@@ -75,6 +81,7 @@ public:
 private:
     void CreateControls();
     void LayOut();
+    QLayout* LayOutStrings();
     void Connect();
     void ShowBuiltInTexts();
     void ApplyLanguage();

@@ -5,15 +5,15 @@
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
 #include "controls/icons.h"
-#include "controls/textlabel.h"
+#include "controls/newcontrols.h"
 #include "core/language.h"
+#include "settings/tuningdelegate.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 
 namespace {
 
-constexpr int gap = 8;
 constexpr int lowestNote = 12; // Positions in the note table, counted from 1.
 constexpr int highestNote = 24;
 constexpr int octaves = 4;
@@ -48,6 +48,9 @@ void frmSettings::CreateControls() {
         Options[i] = Named(new QRadioButton(Frame1), QStringLiteral("Option%1").arg(i + 1));
     lstTunings = new ListBox(QStringLiteral("lstTunings"), Frame1);
     lstTunings->setModel(new CatalogueModel(m_state.Tunings, lstTunings));
+    lstTunings->setItemDelegate(new TuningDelegate(m_state.Tunings, lstTunings));
+    lblNote = NewLabel(u"lblNote", Frame3);
+    lblOctave = NewLabel(u"lblOctave", Frame3);
     for (std::size_t i = 0; i < stringCount; ++i) {
         StringLabels[i] = new TextLabel(QString::fromUtf16(labelNames[i]), Frame3);
         Text1[i] = Named(new QLineEdit(Frame3), Indexed(u"Text1", i));
@@ -55,7 +58,7 @@ void frmSettings::CreateControls() {
         VScroll2[i] = new UpScrollBar(Indexed(u"VScroll2", i), 0, octaves, Frame3);
         VScroll2[i]->setValue(octaves / 2);
         VScroll2[i]->setProperty("Tag", QString::number(VScroll2[i]->value()));
-        // Beside the frame, not in it: a string can be heard while the frame is disabled.
+        // On the frame, but no child of it: a string can be heard while the frame is disabled.
         Image1[i] = new GoldButton(Indexed(u"Image1", i), this);
         Image1[i]->SetCaption(QString());
         Image1[i]->SetPicture(MakeIcon(Icon::Listen));
@@ -64,6 +67,8 @@ void frmSettings::CreateControls() {
     Check1 = Named(new QCheckBox(this), QStringLiteral("Check1"));
     Check1->setChecked(true);
     Check2 = Named(new QCheckBox(Frame1), QStringLiteral("Check2"));
+    lblScheme = NewLabel(u"lblScheme", Frame1);
+    lstScheme = new DropDown(QStringLiteral("lstScheme"), Frame1);
     cmdOK = Named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
     cmdCancel = Named(new QPushButton(this), QStringLiteral("cmdCancel"));
@@ -116,73 +121,85 @@ void frmSettings::ApplyTongue() {
         name(VScroll2[i], u"Октава струны %1", u"Octave of string %1", i);
         name(Image1[i], u"Послушать струну %1", u"Listen to string %1", i);
     }
-    Check2->setText(
-        Phrase{QStringLiteral("Гриф для левши"), QStringLiteral("Left-handed neck")}.In(tongue));
-    lstTunings->setAccessibleName(tongue == Tongue::Russian ? QStringLiteral("Строи")
-                                                            : QStringLiteral("Tunings"));
+    const auto say = [tongue](const char16_t* russian, const char16_t* english) {
+        return QString::fromUtf16(tongue == Tongue::Russian ? russian : english);
+    };
+    Check2->setText(say(u"Гриф для левши", u"Left-handed neck"));
+    lblScheme->setText(say(u"Цвета:", u"Colours:"));
+    lstScheme->SetTexts({say(u"как на рабочем столе", u"as the desktop"), say(u"светлые", u"light"),
+                         say(u"тёмные", u"dark")});
+    lstScheme->setToolTip(say(u"Цвета окон", u"Colours of the windows"));
+    lstScheme->setAccessibleName(lstScheme->toolTip());
+    lblNote->setText(say(u"нота", u"note"));
+    lblOctave->setText(say(u"октава", u"octave"));
+    lstTunings->setAccessibleName(say(u"Строи", u"Tunings"));
     lstLang->setAccessibleName(Frame2->title());
 }
 
 void frmSettings::LayOut() {
-    auto* tuning = new QVBoxLayout(Frame1);
-    tuning->setSpacing(gap / 2);
+    auto* tuning = Spaced(new QVBoxLayout(Frame1), layoutGap);
+    tuning->setSpacing(layoutGap / 2);
     for (QRadioButton* option : Options)
         tuning->addWidget(option);
-    lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 7);
+    lstTunings->setMinimumSize(fontMetrics().averageCharWidth() * 44, fontMetrics().height() * 7);
     tuning->addWidget(lstTunings, 1);
     tuning->addWidget(Check2);
+    auto* scheme = Spaced(new QHBoxLayout, 0);
+    scheme->addWidget(lblScheme);
+    scheme->addWidget(lstScheme, 1);
+    tuning->addLayout(scheme);
 
-    auto* language = new QVBoxLayout(Frame2);
+    auto* language = Spaced(new QVBoxLayout(Frame2), layoutGap);
     lstLang->setMinimumHeight(fontMetrics().height() * 7);
     language->addWidget(lstLang);
 
-    // The listen buttons stand in a column of their own, in the rows of the frame beside it.
-    const int rowHeight =
-        std::max(Text1[0]->sizeHint().height(), Image1[0]->sizeHint().height()) + 2;
-    auto* strings = new QGridLayout(Frame3);
-    auto* listen = new QVBoxLayout;
-    strings->setSpacing(gap / 2);
-    listen->setSpacing(gap / 2);
-    for (std::size_t i = 0; i < stringCount; ++i) {
-        const int row = static_cast<int>(i);
-        strings->addWidget(StringLabels[i], row, 0);
-        strings->addWidget(Text1[i], row, 1);
-        strings->addWidget(VScroll1[i], row, 2);
-        strings->addWidget(VScroll2[i], row, 3);
-        strings->setRowMinimumHeight(row, rowHeight);
-        Text1[i]->setFixedWidth(fontMetrics().averageCharWidth() * 8);
-        VScroll1[i]->setFixedHeight(rowHeight);
-        VScroll2[i]->setFixedHeight(rowHeight);
-        Image1[i]->setFixedHeight(rowHeight);
-        listen->addWidget(Image1[i]);
-    }
-    strings->setColumnStretch(0, 1);
-    Frame3->setFixedHeight(Frame3->sizeHint().height());
-    const QMargins frame = Frame3->contentsMargins() + strings->contentsMargins();
-    listen->setContentsMargins(0, frame.top(), 0, frame.bottom());
-
-    auto* stringRows = new QHBoxLayout;
-    stringRows->setSpacing(gap / 2);
-    stringRows->addWidget(Frame3, 1);
-    stringRows->addLayout(listen);
-
-    auto* buttons = new QHBoxLayout;
+    auto* buttons = Spaced(new QHBoxLayout, 0);
     buttons->addWidget(Check1);
     buttons->addStretch(1);
     buttons->addWidget(cmdOK);
     buttons->addWidget(cmdCancel);
 
-    auto* right = new QVBoxLayout;
-    right->addLayout(stringRows);
+    auto* right = Spaced(new QVBoxLayout, 0);
+    right->addLayout(LayOutStrings());
     right->addWidget(Frame2, 1);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(gap);
+    auto* columns = Spaced(new QHBoxLayout, 0);
     columns->addWidget(Frame1);
     columns->addLayout(right, 1);
-    auto* window = new QVBoxLayout(this);
-    window->setSpacing(gap);
+    auto* window = Spaced(new QVBoxLayout(this), layoutGap + layoutGap / 2);
     window->addLayout(columns, 1);
     window->addLayout(buttons);
+}
+
+// The listen buttons lie over the last column of the frame, each in the row of its string.
+QLayout* frmSettings::LayOutStrings() {
+    const QSize listenSize = Image1[0]->sizeHint();
+    const int rowHeight = std::max(Text1[0]->sizeHint().height(), listenSize.height());
+    auto* strings = Spaced(new QGridLayout(Frame3), layoutGap);
+    strings->setVerticalSpacing(layoutGap / 2);
+    strings->addWidget(lblNote, 0, 2, Qt::AlignCenter);
+    strings->addWidget(lblOctave, 0, 3, Qt::AlignCenter);
+    strings->setColumnMinimumWidth(4, listenSize.width());
+    strings->setColumnStretch(0, 1);
+    auto* listen = Spaced(new QVBoxLayout, 0);
+    listen->setSpacing(strings->verticalSpacing());
+    for (std::size_t i = 0; i < stringCount; ++i) {
+        const int row = static_cast<int>(i) + 1;
+        strings->addWidget(StringLabels[i], row, 0);
+        strings->addWidget(Text1[i], row, 1);
+        strings->addWidget(VScroll1[i], row, 2, Qt::AlignHCenter);
+        strings->addWidget(VScroll2[i], row, 3, Qt::AlignHCenter);
+        Text1[i]->setFixedWidth(fontMetrics().averageCharWidth() * 8);
+        for (QWidget* part : std::initializer_list<QWidget*>{VScroll1[i], VScroll2[i], Image1[i]})
+            part->setFixedHeight(rowHeight);
+        listen->addWidget(Image1[i]);
+    }
+    Frame3->setFixedHeight(Frame3->sizeHint().height());
+    const QMargins frame = Frame3->contentsMargins() + strings->contentsMargins();
+    listen->setContentsMargins(0, 0, frame.right(), frame.bottom());
+    auto* both = new QGridLayout;
+    both->addWidget(Frame3, 0, 0);
+    both->addLayout(listen, 0, 0, Qt::AlignRight | Qt::AlignBottom);
+    return both;
 }
 
 void frmSettings::Connect() {

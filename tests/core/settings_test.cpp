@@ -110,12 +110,14 @@ private Q_SLOTS:
                              QStringLiteral("34"), QStringLiteral("39"), QStringLiteral("46")}};
         settings.language = QStringLiteral("x.lng");
         settings.leftHanded = true;
+        settings.scheme = SchemeChoice::Dark;
         ProfileFile file;
         WriteSettings(file, settings);
-        QCOMPARE(file.ToBytes(),
-                 QByteArray("[Settings]\r\nUser=3\r\nUserN=7\r\nLanguage=x.lng\r\nLeftHanded=1\r\n"
-                            "[Strings]\r\n1S=D\r\n2S=A\r\n3S=F#\r\n4S=D\r\n5S=A\r\n6S=D\r\n"
-                            "1K=22\r\n2K=27\r\n3K=30\r\n4K=34\r\n5K=39\r\n6K=46\r\n"));
+        QCOMPARE(
+            file.ToBytes(),
+            QByteArray("[Settings]\r\nUser=3\r\nUserN=7\r\nLanguage=x.lng\r\nLeftHanded=1\r\n"
+                       "Scheme=2\r\n[Strings]\r\n1S=D\r\n2S=A\r\n3S=F#\r\n4S=D\r\n5S=A\r\n6S=D\r\n"
+                       "1K=22\r\n2K=27\r\n3K=30\r\n4K=34\r\n5K=39\r\n6K=46\r\n"));
         const Settings read = ReadSettings(file);
         QCOMPARE(read.layout, settings.layout);
         QCOMPARE(read.tuningRow, settings.tuningRow);
@@ -123,6 +125,7 @@ private Q_SLOTS:
         QCOMPARE(read.strings.soundNumbers, settings.strings.soundNumbers);
         QCOMPARE(read.language, settings.language);
         QVERIFY(read.leftHanded);
+        QCOMPARE(read.scheme, settings.scheme);
     }
 
     void AStandardTuningKeepsTheRowOfTheList() {
@@ -169,6 +172,32 @@ private Q_SLOTS:
             QVERIFY(!ReadSettings(
                          ProfileFile::FromBytes(QByteArray("[Settings]\r\nLeftHanded=") + value))
                          .leftHanded);
+    }
+
+    void AnySchemeButOneAndTwoIsThatOfTheDesktop_data() {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<int>("scheme");
+        QTest::newRow("as the desktop") << QByteArray("0") << 0;
+        QTest::newRow("light") << QByteArray("1") << 1;
+        QTest::newRow("dark") << QByteArray("2") << 2;
+        QTest::newRow("a number too high") << QByteArray("3") << 0;
+        QTest::newRow("no number") << QByteArray("dark") << 0;
+        QTest::newRow("nothing") << QByteArray() << 0;
+    }
+    void AnySchemeButOneAndTwoIsThatOfTheDesktop() {
+        QFETCH(const QByteArray, value);
+        QFETCH(const int, scheme);
+        const auto file = ProfileFile::FromBytes("[Settings]\r\nScheme=" + value);
+        QCOMPARE(static_cast<int>(ReadSettings(file).scheme), scheme);
+    }
+
+    void TheSchemeOfTheDesktopIsWrittenOnlyOverAnother() {
+        ProfileFile silent;
+        WriteSettings(silent, {});
+        QVERIFY(!silent.ToBytes().contains("Scheme"));
+        ProfileFile dark = ProfileFile::FromBytes("[Settings]\r\nScheme=2\r\n");
+        WriteSettings(dark, {});
+        QVERIFY(dark.ToBytes().contains("Scheme=0"));
     }
 
     void NamesThatTheFileWouldChangeAreNotRemembered_data() {

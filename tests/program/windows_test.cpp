@@ -1,5 +1,6 @@
 // Which window opens how, what it asks, and how the program ends.
 #include "controls/application.h"
+#include "controls/colours.h"
 #include "diagrams/frmdiags.h"
 #include "info/frmabout.h"
 #include "info/frmhelp.h"
@@ -123,6 +124,30 @@ private Q_SLOTS:
         Press(Qt::Key_F10);
         QVERIFY(m_start->State().LeftHanded);
         QVERIFY(!m_folder->Names().contains(QStringLiteral("tonvik.ini")));
+    }
+
+    void TheChosenColoursAreThereAtOnceAndAtTheNextStart() {
+        Start();
+        QCOMPARE(Colours::CurrentScheme(), Scheme::Light); // As the test's desktop.
+        const auto choose = [this](int row, bool remember) {
+            WhenModal<frmSettings>([=](frmSettings* dialog) {
+                dialog->lstScheme->setCurrentIndex(row);
+                dialog->Check1->setChecked(remember);
+                dialog->cmdOK->click();
+            });
+            Press(Qt::Key_F10);
+        };
+        choose(2, false);
+        QCOMPARE(m_start->Window().palette().color(QPalette::Window),
+                 Colours::window.In(Scheme::Dark));
+        choose(0, false);
+        QCOMPARE(Colours::CurrentScheme(), Scheme::Light);
+        choose(2, true);
+        Colours::UseScheme(Scheme::Light);
+        Start();
+        QCOMPARE(Colours::CurrentScheme(), Scheme::Dark);
+        choose(1, false);
+        QCOMPARE(Colours::CurrentScheme(), Scheme::Light);
     }
 
     void TheLeftHandedNeckIsThereAtTheNextStart() {

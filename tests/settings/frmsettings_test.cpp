@@ -1,5 +1,8 @@
 // The settings dialog through its real window: what its controls do.
+#include "settings/tuningdelegate.h"
 #include "settingsdialog.h"
+
+#include <QSet>
 
 class FrmSettingsTest : public QObject, private SettingsDialog {
     Q_OBJECT
@@ -223,6 +226,36 @@ private Q_SLOTS:
         m_dialog->lstTunings->SelectRow(36);
         QCOMPARE(box.text, QStringLiteral("В строе «empty» нет ни одной ноты из шести."));
         QCOMPARE(Notes(), QStringLiteral("E B G D A E"));
+    }
+
+    void ATuningShowsItsNotesBesideItsName() {
+        Open();
+        const TuningDelegate delegate(m_state.Tunings);
+        QCOMPARE(delegate.NotesOf(0), QStringLiteral("D A D G B E")); // The thick string first.
+        QCOMPARE(m_dialog->lstTunings->RowText(0), QStringLiteral("Low D/Drop D"));
+        ListBox* list = m_dialog->lstTunings;
+        m_dialog->Options[2]->click();
+        const QRect row = list->visualRect(list->model()->index(0, 0));
+        const QImage seen = list->viewport()->grab(row).toImage();
+        // The last part of the row, behind the name, is not empty.
+        QSet<QRgb> colours;
+        for (int x = row.width() * 3 / 4; x < row.width(); ++x)
+            for (int y = 0; y < row.height(); ++y)
+                colours += seen.pixel(x, y);
+        QVERIFY(colours.size() > 1);
+    }
+
+    void TheListenButtonsLieOnTheFrameButAreNotItsChildren() {
+        Open();
+        for (const GoldButton* listen : m_dialog->Image1) {
+            QCOMPARE(listen->parentWidget(), m_dialog.get());
+            QVERIFY(m_dialog->Frame3->geometry().contains(listen->geometry()));
+        }
+        for (std::size_t i = 0; i < stringCount; ++i) { // Each beside its string.
+            const QWidget* text = m_dialog->Text1[i];
+            const int middle = text->mapTo(m_dialog.get(), text->rect().center()).y();
+            QVERIFY(std::abs(m_dialog->Image1[i]->geometry().center().y() - middle) <= 1);
+        }
     }
 
 private:

@@ -302,6 +302,18 @@ private Q_SLOTS:
         Open();
         QCOMPARE(Find<QCheckBox>(QStringLiteral("Check2"))->isChecked(), remember);
     }
+
+    void TheSchemeIsShownAndHandedOver() {
+        Write(QStringLiteral("tonvik.ini"), "[Settings]\r\nScheme=1\r\n");
+        Open();
+        auto* scheme = Find<QComboBox>(QStringLiteral("lstScheme"));
+        QCOMPARE(scheme->count(), 3);
+        QCOMPARE(scheme->currentIndex(), 1);
+        scheme->setCurrentIndex(2);
+        Ok();
+        QCOMPARE(m_handed->scheme, SchemeChoice::Dark);
+        QVERIFY(Saved().contains("Scheme=2\r\n"));
+    }
 };
 
 int main(int argc, char** argv) {
