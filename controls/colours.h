@@ -43,7 +43,8 @@ constexpr Shade checked(0xDCCFB6, 0x5A4B34); // The face of a button that is swi
 constexpr Shade buttonLight(0xFFFFFF, 0x5B5246);
 constexpr Shade buttonShadow(0xA89B87, 0x16130F);
 constexpr Shade buttonDark(0x6B6052, 0x0C0A08);
-constexpr Shade selection(0x8C4A1C, 0xE2A45C); // Behind the selected row, and what stands out.
+constexpr Shade selection(0x8C4A1C, 0xE2A45C);    // Behind the selected row, and what stands out.
+constexpr Shade dimSelection(0xE0D3BC, 0x4D4133); // Of a list that rules nothing now.
 constexpr Shade selectionText(0xFFFFFF, 0x1C140A);
 constexpr Shade focus(0x1F5FAE, 0x7DB4F0);       // The ring around what the keyboard works on.
 constexpr Shade besideFocus(0xFFFFFF, 0x1A1815); // Inside it: one of the two is seen anywhere.
@@ -52,6 +53,7 @@ constexpr Shade toolTip(0xFFFBE6, 0x3B352C);
 
 // Behind the prescribed black, blue and red, which a dark window would swallow.
 constexpr Shade plate(0xF6F2EA, 0xD8CBB0); // Around the neck.
+constexpr QColor onPlate(0x22, 0x1D, 0x18);
 constexpr QColor mutedOnPlate(0x5A, 0x51, 0x46);
 constexpr QColor paper(0xFF, 0xFE, 0xFB); // Where red can be read, too.
 

@@ -168,13 +168,13 @@ void Paint(QPainter& painter, Icon icon) {
         painter.drawRect(QRectF(3.5, 15, 6, 6));
         return painter.drawEllipse(QRectF(14.5, 3, 6, 6));
     case Icon::LayFingers:
-        PaintStrings(painter, {2.5, 3, 12, 8});
-        PaintKeys(painter, {2.5, 14, 12, 8});
-        return PaintArrow(painter, {19.5, 20}, {19.5, 5});
+        PaintStrings(painter, {2.5, 3, 19, 9});
+        Fill(painter);
+        painter.drawEllipse(QPointF(10, 7.5), 2.5, 2.5);
+        return PaintArrow(painter, {12, 22.5}, {12, 15.5});
     case Icon::ReadFingers:
-        PaintStrings(painter, {2.5, 3, 12, 8});
-        PaintKeys(painter, {2.5, 14, 12, 8});
-        return PaintArrow(painter, {19.5, 4}, {19.5, 19});
+        PaintKeys(painter, {3.5, 10.5, 17, 11.5});
+        return PaintArrow(painter, {12, 1.5}, {12, 8});
     case Icon::Diagrams:
         PaintSheet(painter, {4.5, 3, 15, 18});
         Stroke(painter, Colours::selection);

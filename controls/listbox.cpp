@@ -42,6 +42,13 @@ int ListBox::Row() const {
     return selectionModel()->isSelected(current) ? current.row() : -1;
 }
 
+void ListBox::SetDimmed(bool dimmed) {
+    if (dimmed == m_dimmed)
+        return;
+    m_dimmed = dimmed;
+    viewport()->update();
+}
+
 QString ListBox::RowText(int row) const {
     return model()->index(row, 0).data().toString();
 }

@@ -22,6 +22,10 @@ public:
     // -1 while nothing is selected.
     int Row() const;
 
+    // Shows the selected row less strongly: what is chosen there rules nothing now.
+    void SetDimmed(bool dimmed);
+    bool IsDimmed() const { return m_dimmed; }
+
     // The empty text for a row that is not there.
     QString RowText(int row) const;
 
@@ -56,6 +60,7 @@ protected:
 private:
     void PressRow(const QModelIndex& pressed, QMouseEvent* event);
 
+    bool m_dimmed = false;
     bool m_takesFocus = false;
     int m_pressedRow = -1; // By the last press.
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/icons.h"
+#include "controls/lengths.h"
 
 #include <QString>
 
@@ -11,7 +12,7 @@ class QLineEdit;
 class QWidget;
 class TextLabel;
 
-constexpr int layoutGap = 8; // The grid of all distances in a window, in pixels.
+constexpr int layoutGap = Lengths::gap;
 
 GoldButton* NewCaptionButton(const char16_t* name, QWidget* parent);
 GoldButton* NewPictureButton(const char16_t* name, Icon icon, QWidget* parent);

@@ -1,6 +1,8 @@
 #include "controls/rowdelegate.h"
 
+#include "controls/colours.h"
 #include "controls/elided.h"
+#include "controls/listbox.h"
 #include "controls/tooltip.h"
 
 #include <QAbstractItemView>
@@ -30,4 +32,9 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
     constexpr qsizetype mostLetters = 2000; // More than any list shows beside each other.
     QStyledItemDelegate::initStyleOption(option, index);
     option->text.truncate(mostLetters);
+    const auto* list = qobject_cast<const ListBox*>(option->widget);
+    if (list == nullptr || !list->IsDimmed())
+        return;
+    option->palette.setColor(QPalette::Highlight, Colours::dimSelection);
+    option->palette.setColor(QPalette::HighlightedText, Colours::text);
 }

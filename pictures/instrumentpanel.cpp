@@ -14,13 +14,28 @@ namespace {
 constexpr double twipsPerPixel = 15; // At 96 dpi.
 constexpr double smallestScale = 0.85;
 
-// The window's places, measured from the fretboard's top left corner.
-constexpr QSizeF panelSize{7695, 4215};
+// The window's places, measured from the top left corner of the fretboard's nut; before it lie
+// the signs of open and muted strings.
+constexpr double nutMargin = 225;
+constexpr QSizeF panelSize{nutMargin + 7695, 4215};
 constexpr double keyboardTop = 2640;
 constexpr QRectF hint{0, 2415, 7215, 225};
 
 // How much of a label's or line's height its letters may take.
 constexpr double letterShare = 0.78;
+
+void PaintNutSign(QPainter& painter, NutSign sign, QPointF centre, double radius) {
+    painter.setPen(QPen(Colours::onPlate, std::max(1.4, radius / 3)));
+    painter.setBrush(Qt::NoBrush);
+    if (sign == NutSign::Open)
+        painter.drawEllipse(centre, radius, radius);
+    if (sign != NutSign::Muted)
+        return;
+    const QPointF corner(radius, radius);
+    const QPointF other(radius, -radius);
+    painter.drawLine(centre - corner, centre + corner);
+    painter.drawLine(centre - other, centre + other);
+}
 
 } // namespace
 
@@ -51,6 +66,10 @@ void InstrumentPanel::ShowLabels(const LabelsView& view) {
     if (view.layout != m_layout) {
         m_layout = view.layout;
         Place();
+    }
+    if (view.nutSigns != m_nutSigns) {
+        m_nutSigns = view.nutSigns;
+        update();
     }
     const auto colour = [](bool lit) { return lit ? Colours::highlight : Colours::normalText; };
     for (int fret = 1; fret <= fretLabels; ++fret)
@@ -88,16 +107,29 @@ void InstrumentPanel::resizeEvent(QResizeEvent*) {
     Place();
 }
 
-// One plate lies under the board, the fret numbers and the notes.
 void InstrumentPanel::paintEvent(QPaintEvent*) {
-    if (Colours::plate.Now() == Colours::window.Now())
-        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (Colours::plate.Now() != Colours::window.Now())
+        PaintPlate(painter);
+    constexpr double radius = 66;
+    const double scale = picStrings->Scale();
+    for (int row = 0; row < stringCount; ++row)
+        PaintNutSign(painter, m_nutSigns[static_cast<std::size_t>(row)],
+                     QPointF(picStrings->pos()) +
+                         QPointF(m_layout.FromNut(-nutMargin / 2), FretboardLayout::StringY(row)) *
+                             scale,
+                     radius * scale);
+}
+
+// One plate lies under the board, the signs, the fret numbers and the notes.
+void InstrumentPanel::PaintPlate(QPainter& painter) const {
     constexpr double margin = 3;
     QRectF plate(picStrings->geometry());
     for (const QWidget* label : std::initializer_list<QWidget*>{Label3.front(), Label4.front()})
         plate |= QRectF(label->geometry());
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    const double signs = nutMargin * picStrings->Scale();
+    plate.adjust(m_layout.leftHanded ? 0 : -signs, 0, m_layout.leftHanded ? signs : 0, 0);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Colours::plate);
     painter.drawRoundedRect(plate.adjusted(-margin, -margin, margin, margin), margin, margin);
@@ -110,10 +142,13 @@ void InstrumentPanel::Place() {
         return QRectF(twips.topLeft() * scale + origin, twips.size() * scale).toRect();
     };
     // The notes stand beside the board: at the right, or at the left of a mirrored one.
-    const QPointF board(m_layout.leftHanded ? panelSize.width() - FretboardLayout::size.width() : 0,
+    const QPointF board(m_layout.leftHanded
+                            ? panelSize.width() - nutMargin - FretboardLayout::size.width()
+                            : nutMargin,
                         0);
     picStrings->setGeometry(rect({board, FretboardLayout::size}));
-    picKeyboard->setGeometry(rect({QPointF(0, keyboardTop), KeyboardLayout::size}));
+    picKeyboard->setGeometry(
+        rect({QPointF(m_layout.leftHanded ? 0 : nutMargin, keyboardTop), KeyboardLayout::size}));
     QFont font = this->font();
     font.setPixelSize(
         std::max(9, static_cast<int>(m_layout.NoteLabel(0).height() * letterShare * scale)));

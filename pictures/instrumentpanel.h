@@ -24,7 +24,8 @@ public:
     // The panel's size when a twip is scale / 15 pixels: 1 is the size at 96 dpi.
     static QSize SizeAt(double scale);
 
-    // Writes the labels around the pictures, and lays the board and them out for the hand.
+    // Writes the labels and signs around the pictures, and lays the board and them out for the
+    // hand.
     void ShowLabels(const LabelsView& view);
 
     // Shows a line of text on lblHint.
@@ -39,6 +40,8 @@ protected:
 
 private:
     void Place();
+    void PaintPlate(QPainter& painter) const;
 
     FretboardLayout m_layout;
+    std::array<NutSign, stringCount> m_nutSigns{};
 };

@@ -32,6 +32,8 @@ struct FretboardView {
     std::array<std::optional<int>, stringCount> marks; // The fret of each finger mark.
     std::array<int, stringCount> fingers{};            // That stop the rows; 0 where none is known.
     std::array<bool, stringCount> muted{};
+    std::array<bool, stringCount> roots{}; // Marks that sound the root.
+    std::optional<int> chosenRow;          // That the next search of a fret is for.
     std::optional<Barre> barre;
     RingsView rings;
     std::bitset<stringCount> soundingRows;
@@ -50,12 +52,16 @@ struct KeyboardView {
     bool operator==(const KeyboardView&) const = default;
 };
 
-// The fret numbers and the labels at the rows' ends.
+// What stands beside a string at the nut.
+enum class NutSign { None, Open, Muted };
+
+// The signs at the nut, the fret numbers and the labels at the rows' ends.
 struct LabelsView {
     FretboardLayout layout; // They stand where the board lies.
     SixTexts notes;         // What each row sounds.
     SixTexts soundNumbers;  // Of its open string.
     std::array<bool, stringCount> muted{};
+    std::array<NutSign, stringCount> nutSigns{};
     std::optional<int> litFret; // 1 for the first; under the pointer.
     std::optional<int> litRow;
 };

@@ -24,6 +24,9 @@ constexpr QColor woundString(0xC9, 0xA6, 0x5A);
 constexpr QColor shadow(0, 0, 0, 90);
 constexpr QColor sounding(0xFF, 0xD2, 0x4A);
 constexpr QColor markEdge(0x8E, 0x00, 0x00);
+constexpr QColor rootRing(0xF7, 0xEE, 0xD6);
+constexpr QColor chosenRow(0xFF, 0xE2, 0xA8, 44);
+constexpr QColor chosenRowEnd(0xFF, 0xD2, 0x4A);
 
 constexpr double neckTop = 75;
 constexpr double neckBottom = 2145;
@@ -125,11 +128,33 @@ void PaintSounding(QPainter& painter, int row, int string) {
     painter.drawPath(wave);
 }
 
-// The prescribed colour fills the mark; its edge lies outside.
-void PaintFinger(QPainter& painter, const QRectF& disc) {
+// A light along the string, and a wedge at its bridge end.
+void PaintChosenRow(QPainter& painter, const FretboardLayout& layout, int row) {
+    constexpr double nutWidth = 60;
+    constexpr double wedge = 100;
+    const double end = FretboardLayout::size.width();
+    const double y = FretboardLayout::StringY(row);
+    const double half = FretboardLayout::rowHeight / 2 - 15;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(chosenRow);
+    painter.drawRect(
+        QRectF(QPointF(layout.FromNut(nutWidth), y - half), QPointF(layout.FromNut(end), y + half))
+            .normalized());
+    painter.setBrush(chosenRowEnd);
+    painter.drawPolygon(QPolygonF({{layout.FromNut(end), y - wedge},
+                                   {layout.FromNut(end), y + wedge},
+                                   {layout.FromNut(end - wedge), y}}));
+}
+
+// The prescribed colour fills the mark; its edge lies outside, and so does the ring of a root.
+void PaintFinger(QPainter& painter, const QRectF& disc, bool root) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(shadow);
     painter.drawEllipse(disc.translated(12, 22).adjusted(-6, -6, 6, 6));
+    if (root) {
+        painter.setBrush(rootRing);
+        painter.drawEllipse(disc.adjusted(-42, -42, 42, 42));
+    }
     painter.setBrush(markEdge);
     painter.drawEllipse(disc.adjusted(-15, -15, 15, 15));
     painter.setBrush(Colours::mark);
@@ -190,6 +215,8 @@ void PaintNeck(QPainter& painter, const FretboardLayout& layout, bool thinString
 }
 
 void PaintMarks(QPainter& painter, const FretboardView& view) {
+    if (view.chosenRow)
+        PaintChosenRow(painter, view.layout, *view.chosenRow);
     for (int row = 0; row < stringCount; ++row) {
         if (!view.muted[static_cast<std::size_t>(row)])
             continue;
@@ -207,7 +234,9 @@ void PaintMarks(QPainter& painter, const FretboardView& view) {
         PaintBarre(painter, view.layout.BarreRect(*view.barre));
     for (int row = 0; row < stringCount; ++row)
         if (const auto fret = view.marks[static_cast<std::size_t>(row)]) {
-            PaintFinger(painter, view.layout.MarkRect(row, *fret));
+            // While all places of its notes have rings, the root's is among them.
+            const bool root = view.roots[static_cast<std::size_t>(row)] && view.rings.notes.Empty();
+            PaintFinger(painter, view.layout.MarkRect(row, *fret), root);
             PaintFingerNumber(painter, view.layout.MarkCentre(row, *fret),
                               view.fingers[static_cast<std::size_t>(row)]);
         }

@@ -37,4 +37,6 @@ void ChooseGroup::ShowRows(const Workbench& workbench) const {
     lstBase->ShowRow(workbench.RootRow());
     lstType->ShowRow(workbench.TypeRow());
     lstLad->ShowRow(workbench.ScaleRow());
+    lstType->SetDimmed(workbench.ScaleRules());
+    lstLad->SetDimmed(!workbench.ScaleRules());
 }

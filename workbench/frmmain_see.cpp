@@ -53,6 +53,7 @@ void frmMain::ShowState() {
 void frmMain::ShowInstruments() {
     FretboardView board = ViewOfFretboard(m_workbench, m_state);
     board.soundingRows = m_playback.SoundingRows();
+    board.chosenRow = RowOfSearch(txtStr->text());
     ShowPointed(board, m_pointed, m_workbench);
     panel->picStrings->Show(board);
     KeyboardView keyboard = ViewOfKeyboard(m_workbench);

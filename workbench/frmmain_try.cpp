@@ -4,6 +4,7 @@
 
 void frmMain::ConnectTry() {
     Handle(VScroll3, &QScrollBar::valueChanged, this, &frmMain::VScroll3_Change);
+    Handle(txtStr, &QLineEdit::textChanged, this, &frmMain::ShowInstruments);
     Handle(cmdFindNew, &GoldButton::Click, this, &frmMain::cmdFindNew_Click);
     Handle(cmdMakeBarre, &GoldButton::Click, this, &frmMain::cmdMakeBarre_Click);
     Handle(lstBarre, &DropDown::RowChosen, this, &frmMain::lstBarre_Click);

@@ -3,6 +3,7 @@
 #include "controls/colours.h"
 #include "controls/labellook.h"
 #include "controls/newcontrols.h"
+#include "controls/papercard.h"
 
 #include <QGridLayout>
 
@@ -26,7 +27,7 @@ SeeGroup::SeeGroup(QWidget* window)
     seeColumn->addWidget(lblSounds);
     seeColumn->addWidget(panel, 1);
     seeColumn->addLayout(VoicingLine());
-    seeColumn->addLayout(NoteLines());
+    seeColumn->addWidget(NoteLines(window));
 }
 
 QLayout* SeeGroup::ChordLine(const QWidget* window) {
@@ -67,12 +68,14 @@ QLayout* SeeGroup::VoicingLine() {
     return grid;
 }
 
-QLayout* SeeGroup::NoteLines() {
-    auto* grid = Spaced(new QGridLayout, 0);
+QWidget* SeeGroup::NoteLines(QWidget* window) {
+    auto* card = new PaperCard(window);
+    auto* grid = Spaced(new QGridLayout(card), layoutGap / 2);
+    grid->setHorizontalSpacing(layoutGap);
     grid->addWidget(Label2, 0, 0);
     grid->addWidget(lblKeys, 0, 1);
     grid->addWidget(Label7, 1, 0);
-    grid->addWidget(lblNoS, 1, 1, Qt::AlignLeft); // As wide as its text: it may be filled.
+    grid->addWidget(lblNoS, 1, 1);
     grid->setColumnStretch(1, 1);
     for (TextLabel* label : {lblKeys, lblNoS}) {
         label->setMinimumWidth(1); // A long list must not widen the window.
@@ -80,12 +83,7 @@ QLayout* SeeGroup::NoteLines() {
         bold.setBold(true);
         label->setFont(bold);
     }
-    QPalette paper = lblNoS->palette();
-    paper.setColor(QPalette::Window, Colours::paper);
-    lblNoS->setPalette(paper);
-    lblNoS->setContentsMargins(layoutGap / 2, 0, layoutGap / 2, 0);
-    Label7->setMinimumHeight(lblNoS->sizeHint().height());
-    return grid;
+    return card;
 }
 
 void SeeGroup::ShowMissing(const MissingNotes& missing, Tongue tongue) const {
@@ -93,6 +91,5 @@ void SeeGroup::ShowMissing(const MissingNotes& missing, Tongue tongue) const {
                              QStringLiteral("No string sounds the root of the chord.")};
     lblNoS->setText(missing.text);
     SetTextColour(lblNoS, missing.rootMissing ? Colours::mark : Colours::normalText);
-    lblNoS->setAutoFillBackground(!missing.text.trimmed().isEmpty());
     lblNoS->setToolTip(missing.rootMissing ? rootMissing.In(tongue) : QString());
 }

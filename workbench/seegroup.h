@@ -37,5 +37,5 @@ struct SeeGroup {
 private:
     QLayout* ChordLine(const QWidget* window);
     QLayout* VoicingLine();
-    QLayout* NoteLines();
+    QWidget* NoteLines(QWidget* window);
 };

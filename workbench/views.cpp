@@ -1,28 +1,51 @@
 #include "workbench/views.h"
 
+#include "core/numbers.h"
 #include "music/fingernumbers.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
-// The root is the chosen one, or the lowest key where that is not marked.
+// The chosen root, or the lowest key where that is not marked.
+std::optional<PitchClass> RootOf(const Workbench& workbench) {
+    const auto marked = workbench.Keys().Marked();
+    const int chosen = workbench.RootRow();
+    const auto sounds = [chosen](int key) { return key % notesPerOctave == chosen; };
+    if (std::any_of(marked.begin(), marked.end(), sounds))
+        return chosen;
+    if (marked.empty())
+        return std::nullopt;
+    return marked.front() % notesPerOctave;
+}
+
 RingsView RingsOf(const Workbench& workbench, const AppState& state) {
     RingsView rings;
     rings.open = OpenNotes(state.StringNotes);
-    const auto marked = workbench.Keys().Marked();
-    for (const int key : marked)
+    for (const int key : workbench.Keys().Marked())
         rings.notes.Add(key);
-    const int root = workbench.RootRow();
-    if (root >= 0 && rings.notes.Contains(root))
-        rings.root = root;
-    else if (!marked.empty())
-        rings.root = marked.front() % notesPerOctave;
+    rings.root = RootOf(workbench);
     return rings;
+}
+
+NutSign SignOf(const StringRow& row, int fret) {
+    if (!row.enabled)
+        return NutSign::Muted;
+    return fret == 0 ? NutSign::Open : NutSign::None;
 }
 
 } // namespace
 
 FretboardLayout LayoutOfFretboard(const AppState& state) {
     return {.leftHanded = state.LeftHanded};
+}
+
+std::optional<int> RowOfSearch(const QString& number) {
+    const double row = std::nearbyint(LeadingNumber(number)) - 1;
+    if (row < 0 || row >= stringCount)
+        return std::nullopt;
+    return static_cast<int>(row);
 }
 
 FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state) {
@@ -33,8 +56,12 @@ FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state)
     if (workbench.RingsShown())
         view.rings = RingsOf(workbench, state);
     const Shape held = WithFingers(workbench.NeckShape());
+    const auto root = RootOf(workbench);
     for (int row = 0; row < stringCount; ++row) {
-        view.marks[static_cast<std::size_t>(row)] = workbench.Row(row).mark;
+        const auto mark = workbench.Row(row).mark;
+        view.marks[static_cast<std::size_t>(row)] = mark;
+        view.roots[static_cast<std::size_t>(row)] =
+            mark && root && workbench.NoteAt(row, *mark) == root;
         view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;
         view.fingers[static_cast<std::size_t>(row)] =
             held.Finger(StringOfRow(row, state.ThinStringAtBottom));
@@ -53,9 +80,12 @@ LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state) {
     LabelsView view;
     view.layout = LayoutOfFretboard(state);
     view.soundNumbers = state.SoundNumbers;
+    const Shape held = workbench.NeckShape();
     for (int row = 0; row < stringCount; ++row) {
         view.notes[static_cast<std::size_t>(row)] = workbench.RowText(row);
         view.muted[static_cast<std::size_t>(row)] = !workbench.Row(row).enabled;
+        view.nutSigns[static_cast<std::size_t>(row)] =
+            SignOf(workbench.Row(row), held.Fret(StringOfRow(row, state.ThinStringAtBottom)));
     }
     return view;
 }

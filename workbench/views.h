@@ -7,6 +7,9 @@
 // For the hand that the settings name.
 FretboardLayout LayoutOfFretboard(const AppState& state);
 
+// The row that the number of a search means, 0 the lowest; nothing for a text that names none.
+std::optional<int> RowOfSearch(const QString& number);
+
 FretboardView ViewOfFretboard(const Workbench& workbench, const AppState& state);
 KeyboardView ViewOfKeyboard(const Workbench& workbench);
 LabelsView ViewOfLabels(const Workbench& workbench, const AppState& state);

@@ -119,6 +119,7 @@ public:
     int TypeRow() const { return m_typeRow; }
     int ScaleRow() const { return m_scaleRow; }
     std::optional<PitchClass> PreferredBass() const { return m_preferredBass; }
+    bool ScaleRules() const { return m_scaleRules; } // Not a type: the scale was chosen last.
     bool RingsShown() const { return m_ringsShown; }
     int BarreStringsRow() const { return m_barreStringsRow; }
     int BarreFretRow() const { return m_barreFretRow; }
@@ -136,7 +137,7 @@ private:
     void SpellChord();
     void MarkChord();
     void NameChosenChord();
-    void BeginChoice(bool showRings);
+    void BeginChoice(bool ofScale);
     void ClearFingering();
     void ShowMarkedKeyNames();
     void FindMissing();
@@ -158,6 +159,7 @@ private:
     int m_typeRow = -1;
     int m_scaleRow = -1;
     std::optional<PitchClass> m_preferredBass; // Of the chosen chord; empty for its root.
+    bool m_scaleRules = false;
     bool m_ringsShown = false;
     int m_barreStringsRow = -1;
     int m_barreFretRow = -1;

@@ -46,9 +46,10 @@ void Workbench::ChooseNameOfHand(int rootRow, int typeRow) {
     FindMissing();
 }
 
-void Workbench::BeginChoice(bool showRings) {
+void Workbench::BeginChoice(bool ofScale) {
     m_preferredBass.reset();
-    m_ringsShown = showRings;
+    m_scaleRules = ofScale;
+    m_ringsShown = ofScale;
 }
 
 void Workbench::NameChosenChord() {

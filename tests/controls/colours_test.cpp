@@ -99,6 +99,8 @@ void ColoursTest::Contrasts_data() {
         {"list rows", In(Colours::text), In(field), ofText},
         {"every second list row", In(Colours::text), In(fieldStripe), ofText},
         {"the selected row", In(selectionText), In(selection), ofText},
+        {"the row of a list that rules nothing", In(Colours::text), In(dimSelection), ofText},
+        {"signs at the nut", In(onPlate), In(plate), ofText},
         {"buttons", In(Colours::text), In(buttonFace), ofText},
         {"what is disabled", In(mutedText), In(window), ofText},
         {"what is disabled in frames", In(mutedText), In(frame), ofText},

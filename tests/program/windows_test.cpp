@@ -138,8 +138,8 @@ private Q_SLOTS:
             Press(Qt::Key_F10);
         };
         choose(2, false);
-        QCOMPARE(m_start->Window().palette().color(QPalette::Window),
-                 Colours::window.In(Scheme::Dark));
+        QTRY_COMPARE(m_start->Window().palette().color(QPalette::Window),
+                     Colours::window.In(Scheme::Dark));
         choose(0, false);
         QCOMPARE(Colours::CurrentScheme(), Scheme::Light);
         choose(2, true);
