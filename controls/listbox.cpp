@@ -43,10 +43,14 @@ int ListBox::Row() const {
 }
 
 void ListBox::SetDimmed(bool dimmed) {
-    if (dimmed == m_dimmed)
+    if (dimmed == IsDimmed())
         return;
-    m_dimmed = dimmed;
+    static_cast<RowDelegate*>(itemDelegate())->SetDimmed(dimmed);
     viewport()->update();
+}
+
+bool ListBox::IsDimmed() const {
+    return static_cast<const RowDelegate*>(itemDelegate())->IsDimmed();
 }
 
 QString ListBox::RowText(int row) const {

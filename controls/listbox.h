@@ -24,7 +24,7 @@ public:
 
     // Shows the selected row less strongly: what is chosen there rules nothing now.
     void SetDimmed(bool dimmed);
-    bool IsDimmed() const { return m_dimmed; }
+    bool IsDimmed() const;
 
     // The empty text for a row that is not there.
     QString RowText(int row) const;
@@ -60,7 +60,6 @@ protected:
 private:
     void PressRow(const QModelIndex& pressed, QMouseEvent* event);
 
-    bool m_dimmed = false;
     bool m_takesFocus = false;
     int m_pressedRow = -1; // By the last press.
 };

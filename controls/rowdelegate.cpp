@@ -2,7 +2,6 @@
 
 #include "controls/colours.h"
 #include "controls/elided.h"
-#include "controls/listbox.h"
 #include "controls/tooltip.h"
 
 #include <QAbstractItemView>
@@ -32,8 +31,7 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
     constexpr qsizetype mostLetters = 2000; // More than any list shows beside each other.
     QStyledItemDelegate::initStyleOption(option, index);
     option->text.truncate(mostLetters);
-    const auto* list = qobject_cast<const ListBox*>(option->widget);
-    if (list == nullptr || !list->IsDimmed())
+    if (!m_dimmed)
         return;
     option->palette.setColor(QPalette::Highlight, Colours::dimSelection);
     option->palette.setColor(QPalette::HighlightedText, Colours::text);

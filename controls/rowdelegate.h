@@ -8,6 +8,10 @@ class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    // Shows the selected row less strongly: what is chosen there rules nothing now.
+    void SetDimmed(bool dimmed) { m_dimmed = dimmed; }
+    bool IsDimmed() const { return m_dimmed; }
+
     // As high as a line; the list decides how wide.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
@@ -16,4 +20,7 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    bool m_dimmed = false;
 };

@@ -7,6 +7,7 @@
 #include "core/language.h"
 #include "core/profile.h"
 #include "core/settings.h"
+#include "core/statefolder.h"
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
 #include "program/sheetopener.h"
@@ -45,6 +46,10 @@ StartUp::StartUp(Application& application, const QString& folder, std::unique_pt
     : m_application(application),
       m_midi(std::move(midi)),
       m_clock(std::move(clock)),
+      m_places(StateFolder() + QStringLiteral("/windows"),
+               {QStringLiteral("frmMain"), QStringLiteral("frmSettings"),
+                QStringLiteral("frmDiags"), QStringLiteral("frmVoicings"),
+                QStringLiteral("frmHelp")}),
       m_splash(std::make_unique<frmSplash>()) {
     m_state.AppPath = FolderPath(folder);
 }

@@ -1,6 +1,7 @@
 // The start-up routine: builds the state and the windows, in an order that matters.
 #pragma once
 
+#include "controls/windowplaces.h"
 #include "core/mdlmain.h"
 #include "sound/sound.h"
 #include "workbench/frmmain.h"
@@ -45,6 +46,7 @@ private:
     AppState m_state;
     std::unique_ptr<MidiPlayer> m_midi;
     std::unique_ptr<Clock> m_clock;
+    WindowPlaces m_places; // Outlives the windows, which hide at their end.
     std::unique_ptr<Workbench> m_workbench;
     std::unique_ptr<frmMain> m_window;
     std::unique_ptr<HelpOpener> m_help;

@@ -270,7 +270,7 @@ void VoicingStripTest::StandsWhereThereIsRoom() {
     QVERIFY(Strip().isVisible());
     const auto& window = m_main->window;
     QVERIFY(window.panel->geometry().bottom() < Strip().geometry().top());
-    QVERIFY(Strip().geometry().bottom() < window.lblKeys->geometry().top());
+    QVERIFY(Strip().geometry().bottom() < window.lblKeys->mapTo(&window, QPoint()).y());
     QVERIFY(window.layout()->totalMinimumSize().height() <= 768);
     QVERIFY(window.layout()->totalMinimumSize().width() <= 1024);
 }
