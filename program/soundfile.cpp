@@ -2,8 +2,8 @@
 
 namespace {
 
-constexpr int ticksPerQuarter = 480; // At the file format's default pace, half a second.
-constexpr int noteTicks = 8 * ticksPerQuarter;
+constexpr int ticksPerQuarter = 480;            // At the file format's default pace, half a second.
+constexpr int noteTicks = 10 * ticksPerQuarter; // Longer than any string of a strum rings.
 constexpr int velocity = 100;
 
 void AppendNumber(QByteArray& bytes, quint32 number, int size) {

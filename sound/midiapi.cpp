@@ -11,7 +11,9 @@ MidiAPI::MidiAPI(QString appPath) : MidiAPI(std::move(appPath), std::make_unique
 MidiAPI::MidiAPI(QString appPath, std::unique_ptr<Output> output, double rest)
     : m_appPath(std::move(appPath)), m_output(std::move(output)), m_rest(rest) {
     m_strumming.setSingleShot(true);
-    QObject::connect(&m_strumming, &QTimer::timeout, &m_strumming, [this] { EndStrum(); });
+    QObject::connect(&m_strumming, &QTimer::timeout, &m_strumming, [this] {
+        EndStrumAfter(m_strumming.interval() / 1000.0); // From when it began, should that be late.
+    });
 }
 
 MidiAPI::~MidiAPI() = default;
@@ -58,11 +60,15 @@ void MidiAPI::Strum(const QStringList& files) {
 }
 
 void MidiAPI::EndStrum() {
+    EndStrumAfter(0);
+}
+
+void MidiAPI::EndStrumAfter(double seconds) {
     m_strumming.stop();
     const int strum = std::exchange(m_strumId, 0);
     if (strum == 0)
         return;
-    End(strum);
+    End(strum, seconds);
     StrumEnded();
 }
 

@@ -39,6 +39,7 @@ public:
 private:
     void Begin(std::vector<Beginning> files);
     void End(int id, double atLeast = 0);
+    void EndStrumAfter(double seconds);
 
     QString m_appPath;
     std::unique_ptr<Output> m_output; // Until the thread is started at the first note.

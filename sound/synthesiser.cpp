@@ -79,7 +79,8 @@ void Synthesiser::Begin(const Beginning& file) {
 void Synthesiser::End(Ending files) {
     for (Performance& performance : m_performances)
         if (performance.id == files.id)
-            performance.end = std::max(m_now, performance.begin + files.atLeast * m_sampleRate);
+            performance.end = std::min(
+                performance.end, std::max(m_now, performance.begin + files.atLeast * m_sampleRate));
 }
 
 void Synthesiser::Silence() {

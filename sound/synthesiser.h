@@ -18,7 +18,8 @@ struct Beginning {
     double length; // Seconds; infinite while nobody knows.
 };
 
-// The end of the files of an id, where they have sounded for so many seconds at least.
+// The end of the files of an id, where they have sounded for so many seconds at least. It makes
+// none of them longer.
 struct Ending {
     int id;
     double atLeast;

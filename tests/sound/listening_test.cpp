@@ -6,6 +6,7 @@
 #include "recording.h"
 #include "sound/playback.h"
 #include "sound/soundfont.h"
+#include "sound/synthesiser.h"
 
 #include <QTest>
 
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void FastRetriggersOfOnePitch();
     void TwoHundredNotesInARow();
     void AStrum();
+    void AnEndMakesNoNoteLonger_data();
+    void AnEndMakesNoNoteLonger();
     void TheStringsOfAStrumAreThirtyMillisecondsApart();
     void AStrumGivesWay_data();
     void AStrumGivesWay();
@@ -230,7 +233,32 @@ void ListeningTest::AStrum() {
         const double whileItRings = Loudness(strum, pitch, 3.9, 4.1);
         QVERIFY2(whileItRings > 1e-4, qPrintable(QString::number(pitch)));
         QVERIFY(Loudness(strum, pitch, 4.6, 4.8) < whileItRings / 8);
+        // The sixth string does not stop before the first.
+        QVERIFY(Loudness(strum, pitch, 4.01, 4.14) > Loudness(strum, pitch, 3.8, 3.93) / 2);
     }
+}
+
+// A strum that began late is told to end when it would have, had it begun at once.
+void ListeningTest::AnEndMakesNoNoteLonger_data() {
+    QTest::addColumn<double>("atLeast");
+    QTest::addColumn<double>("length");
+    QTest::newRow("a note rings as long as it was to") << 2.0 << 1.0;
+    QTest::newRow("or as long as it must") << 0.5 << 0.5;
+}
+
+void ListeningTest::AnEndMakesNoNoteLonger() {
+    QFETCH(const double, atLeast);
+    QFETCH(const double, length);
+    const auto synthesiser = Synthesiser::Make(FindSoundFont(programFolder));
+    auto score = std::make_shared<const Score>(ReadMidiFile(File(12)));
+    synthesiser->Begin({1, std::move(score), 0, 1});
+    synthesiser->End({1, atLeast});
+    Samples left(static_cast<std::size_t>(2.5 * sampleRate));
+    Samples right(left.size());
+    synthesiser->Render(left.data(), right.data(), static_cast<int>(left.size()));
+    const double ringing = Loudness(left, 60, length - 0.15, length);
+    QVERIFY(ringing > 1e-3);
+    QVERIFY(Loudness(left, 60, length + 0.25, length + 0.4) < ringing / 8);
 }
 
 // Each file by itself, at its place in the strum.
