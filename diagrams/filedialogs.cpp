@@ -1,9 +1,9 @@
 #include "diagrams/filedialogs.h"
+#include "controls/messagebox.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
 
 namespace {
 
@@ -42,11 +42,12 @@ protected:
 bool MayOverwrite(const QString& path, const QString& askedAbout, QWidget* ownerWindow) {
     if (path == askedAbout || !QFileInfo::exists(path))
         return true;
-    return QMessageBox::warning(ownerWindow, QFileDialog::tr("Save As"),
-                                QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
-                                    .arg(QFileInfo(path).fileName()),
-                                QMessageBox::Yes | QMessageBox::No,
-                                QMessageBox::No) == QMessageBox::Yes;
+    MessageBox box(QMessageBox::Warning, QFileDialog::tr("Save As"),
+                   QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
+                       .arg(QFileInfo(path).fileName()),
+                   QMessageBox::Yes | QMessageBox::No, ownerWindow);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 QString Run(QFileDialog& dialog, const QString& filter, const QString& folder) {

@@ -1,12 +1,12 @@
 // The sheet's handlers.
 #include "diagrams/frmdiags.h"
 
+#include "controls/messagebox.h"
 #include "core/numbers.h"
 #include "core/runtimeerror.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QMessageBox>
 #include <QMimeData>
 
 #include <cmath>
@@ -56,9 +56,9 @@ void frmDiags::cmdDel_Click() {
 }
 
 void frmDiags::cmdClear_Click() {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Подтвердите..."),
-                    QStringLiteral("Очистить весь список?"), QMessageBox::Yes | QMessageBox::No,
-                    this);
+    MessageBox box(QMessageBox::NoIcon, QStringLiteral("Подтвердите..."),
+                   QStringLiteral("Очистить весь список?"), QMessageBox::Yes | QMessageBox::No,
+                   this);
     box.setEscapeButton(QMessageBox::No);
     if (box.exec() == QMessageBox::No)
         return;

@@ -1,11 +1,11 @@
 // The sheet's text as a file, and what is asked before any of it is lost.
 #include "diagrams/frmdiags.h"
 
+#include "controls/messagebox.h"
 #include "diagrams/filedialogs.h"
 #include "diagrams/sheetfile.h"
 
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace {
@@ -27,8 +27,8 @@ void frmDiags::GoldButton1_Click() {
         return;
     m_folder = QFileInfo(path).absolutePath();
     if (SheetSize(path) > longestSheet) {
-        QMessageBox(QMessageBox::Information, QStringLiteral("Предупреждение"),
-                    QStringLiteral("Файл слишком большой!"), QMessageBox::Ok, this)
+        MessageBox(QMessageBox::Information, QStringLiteral("Предупреждение"),
+                   QStringLiteral("Файл слишком большой!"), QMessageBox::Ok, this)
             .exec();
         return;
     }
@@ -91,8 +91,8 @@ QString frmDiags::UnwrittenRows() const {
 
 bool frmDiags::MayLose(const Phrase& question, const QString& addition) {
     const Tongue tongue = m_state.InterfaceTongue();
-    QMessageBox box(QMessageBox::Question, windowTitle(), question.In(tongue),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    MessageBox box(QMessageBox::Question, windowTitle(), question.In(tongue),
+                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     box.setObjectName(QStringLiteral("UnsavedSheet"));
     box.button(QMessageBox::Save)
         ->setText(Phrase{QStringLiteral("Сохранить"), QStringLiteral("Save")}.In(tongue));

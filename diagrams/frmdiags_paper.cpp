@@ -1,6 +1,7 @@
 // The sheet as pages: seen, printed, exported, imported.
 #include "diagrams/frmdiags.h"
 
+#include "controls/messagebox.h"
 #include "core/runtimeerror.h"
 #include "diagrams/chordprofile.h"
 #include "diagrams/filedialogs.h"
@@ -12,7 +13,6 @@
 
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 
 SheetQuestions frmDiags::Questions() const {
     SheetQuestions questions = m_questions;
@@ -125,13 +125,13 @@ bool frmDiags::MayWritePages(const QString& path, int pages) {
             names += QFileInfo(file).fileName();
     if (names.isEmpty())
         return true;
-    QMessageBox box(QMessageBox::Question, windowTitle(),
-                    Phrase{QStringLiteral("Эти файлы уже есть. Заменить их?"),
-                           QStringLiteral("These files are there already. Replace them?")}
-                            .In(m_state.InterfaceTongue()) +
-                        u'\n' + names.mid(0, 10).join(u'\n') +
-                        (names.size() > 10 ? QStringLiteral("\n…") : QString()),
-                    QMessageBox::Yes | QMessageBox::No, this);
+    MessageBox box(QMessageBox::Question, windowTitle(),
+                   Phrase{QStringLiteral("Эти файлы уже есть. Заменить их?"),
+                          QStringLiteral("These files are there already. Replace them?")}
+                           .In(m_state.InterfaceTongue()) +
+                       u'\n' + names.mid(0, 10).join(u'\n') +
+                       (names.size() > 10 ? QStringLiteral("\n…") : QString()),
+                   QMessageBox::Yes | QMessageBox::No, this);
     box.setObjectName(QStringLiteral("ReplaceFiles"));
     box.setTextFormat(Qt::PlainText);
     return box.exec() == QMessageBox::Yes;
@@ -150,8 +150,8 @@ void frmDiags::cmdImport_Click() {
         return;
     m_folder = QFileInfo(path).absolutePath();
     if (SheetSize(path) > longestImport) {
-        QMessageBox(QMessageBox::Information, QStringLiteral("Предупреждение"),
-                    QStringLiteral("Файл слишком большой!"), QMessageBox::Ok, this)
+        MessageBox(QMessageBox::Information, QStringLiteral("Предупреждение"),
+                   QStringLiteral("Файл слишком большой!"), QMessageBox::Ok, this)
             .exec();
         return;
     }

@@ -1,15 +1,15 @@
 // What keeps the sheet from being lost: its recovery file, and the look at what another program
 // did to its file.
+#include "controls/messagebox.h"
 #include "diagrams/frmdiags.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace {
 
 bool AskYesNo(QWidget* owner, const QString& name, const QString& text) {
-    QMessageBox box(QMessageBox::Question, owner->windowTitle(), text,
-                    QMessageBox::Yes | QMessageBox::No, owner);
+    MessageBox box(QMessageBox::Question, owner->windowTitle(), text,
+                   QMessageBox::Yes | QMessageBox::No, owner);
     box.setObjectName(name);
     box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(QMessageBox::No);

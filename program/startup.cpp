@@ -2,6 +2,7 @@
 
 #include "controls/application.h"
 #include "controls/handle.h"
+#include "controls/messagebox.h"
 #include "controls/theme.h"
 #include "controls/windowtexts.h"
 #include "core/language.h"
@@ -17,7 +18,6 @@
 #include "sound/midiapi.h"
 #include "voicings/frmvoicings.h"
 
-#include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
 
@@ -93,10 +93,10 @@ void StartUp::LoadLanguage(const QString& name) {
     const LanguageChoice choice = ChooseLanguage(m_state, name);
     m_application.SetTongue(m_state.InterfaceTongue());
     if (choice == LanguageChoice::FileMissing) {
-        QMessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
-                    QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
-                                   "отсутствует!"),
-                    QMessageBox::Ok)
+        MessageBox(QMessageBox::Critical, QStringLiteral("Внимание!"),
+                   QStringLiteral("Файл, указанный как языковой ресурс в файле инициализации "
+                                  "отсутствует!"),
+                   QMessageBox::Ok)
             .exec();
         ForgetLanguage(m_state);
     }

@@ -1,4 +1,5 @@
 // Playback through a recorder and a clock moved by hand: no test waits.
+#include "core/runtimeerror.h"
 #include "core/settings.h"
 #include "support/recordingsound.h"
 #include "workbench/workbench.h"
@@ -23,7 +24,9 @@ private Q_SLOTS:
     void EmptyPassOnceDoesNotWait();
     void NestedPress();
     void MarksCountWhenTheirTurnComes();
+    void ClosingEndsAtOnce_data();
     void ClosingEndsAtOnce();
+    void APassThatFailsEndsAllLoops();
     void SoundingIsShown();
     void NumbersThatAreNone_data();
     void NumbersThatAreNone();
@@ -192,11 +195,48 @@ void PlaybackTest::MarksCountWhenTheirTurnComes() {
     QCOMPARE(m_midi->played.join(u' '), QStringLiteral("keys/0.mid keys/7.mid"));
 }
 
+void PlaybackTest::ClosingEndsAtOnce_data() {
+    QTest::addColumn<bool>("keys");
+    QTest::newRow("the strings") << false;
+    QTest::newRow("the keys") << true;
+}
+
 void PlaybackTest::ClosingEndsAtOnce() {
+    QFETCH(const bool, keys);
     m_repeats = true;
-    m_clock.onWait = [this] { m_playback->Abandon(); };
-    m_playback->PlayStrings(true);
+    m_bench->ToggleKey(0);
+    m_bench->ToggleKey(4);
+    int open = 0;
+    m_clock.onWait = [&] {
+        const int closed = m_midi->closed;
+        m_playback->Abandon();
+        open = m_midi->closed - closed;
+    };
+    if (keys)
+        m_playback->PlayKeys(true);
+    else
+        m_playback->PlayStrings(true);
     QCOMPARE(m_midi->played.size(), 1);
+    QCOMPARE(open, 1); // The file was closed at once.
+    QVERIFY(!m_state.IsPlaying);
+}
+
+// Also the loop that it is nested in.
+void PlaybackTest::APassThatFailsEndsAllLoops() {
+    m_repeats = true;
+    int waits = 0;
+    m_clock.onWait = [&] {
+        if (++waits == 2)
+            throw RunTimeError({QStringLiteral("сбой"), QStringLiteral("failure")});
+        if (waits == 1)
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, m_playback->PlayStrings(true));
+        QVERIFY(!m_state.IsPlaying);
+    };
+    m_bench->ToggleKey(0);
+    m_playback->PlayKeys(true);
+    QCOMPARE(waits, 2);
+    QCOMPARE(m_midi->played.size(), 2);
+    QVERIFY(!m_playback->SoundingKey());
 }
 
 void PlaybackTest::SoundingIsShown() {
