@@ -32,8 +32,8 @@ void ChoiceLabel::Show(const std::vector<Choice>& choices) {
     unsetCursor();
     const auto same = std::find_if(choices.begin(), choices.end(),
                                    [&](const Choice& choice) { return choice.text == focused; });
-    m_focused = same == choices.end() ? NextFrom(-1, 1).value_or(0)
-                                      : static_cast<int>(same - choices.begin());
+    SetFocused(same == choices.end() ? NextFrom(-1, 1).value_or(0)
+                                     : static_cast<int>(same - choices.begin()));
     QStringList texts;
     for (const Choice& choice : choices)
         texts += choice.text;
@@ -84,6 +84,14 @@ void ChoiceLabel::SetHovered(std::optional<int> choice) {
     update();
 }
 
+void ChoiceLabel::SetFocused(int choice) {
+    m_focused = choice;
+    const auto index = static_cast<std::size_t>(choice);
+    const bool canBeChosen = index < m_choices.size() && m_choices[index].canBeChosen;
+    setAccessibleDescription(canBeChosen ? m_choices[index].text : QString());
+    update();
+}
+
 void ChoiceLabel::mousePressEvent(QMouseEvent* event) {
     const auto choice = ChoiceAt(event->position().toPoint());
     if (event->button() == Qt::LeftButton && choice)
@@ -113,19 +121,17 @@ void ChoiceLabel::keyPressEvent(QKeyEvent* event) {
 void ChoiceLabel::focusInEvent(QFocusEvent* event) {
     const int count = static_cast<int>(m_choices.size());
     if (event->reason() == Qt::TabFocusReason)
-        m_focused = NextFrom(-1, 1).value_or(0);
+        SetFocused(NextFrom(-1, 1).value_or(0));
     else if (event->reason() == Qt::BacktabFocusReason)
-        m_focused = NextFrom(count, -1).value_or(0);
+        SetFocused(NextFrom(count, -1).value_or(0));
     TextLabel::focusInEvent(event);
-    update();
 }
 
 bool ChoiceLabel::focusNextPrevChild(bool next) {
     const auto choice = NextFrom(m_focused, next ? 1 : -1);
     if (!choice || !hasFocus())
         return TextLabel::focusNextPrevChild(next);
-    m_focused = *choice;
-    update();
+    SetFocused(*choice);
     return true;
 }
 

@@ -1,4 +1,5 @@
-// A line of texts of which some can be chosen: by a click, or by Tab and Enter.
+// A line of texts of which some can be chosen: by a click, or by Tab and Enter. A screen reader
+// hears the line as its name, and the text that Enter would choose as its description.
 #pragma once
 
 #include "controls/textlabel.h"
@@ -47,6 +48,7 @@ private:
     std::optional<int> NextFrom(int choice, int step) const;
     void PaintChoice(QPainter& painter, std::size_t choice) const;
     void SetHovered(std::optional<int> choice);
+    void SetFocused(int choice);
 
     std::vector<Choice> m_choices;
     std::optional<int> m_hovered;

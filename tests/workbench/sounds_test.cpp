@@ -194,8 +194,10 @@ void SoundsTest::EnterChooses() {
     Lay(QStringLiteral("x02213"));
     QWidget* label = m_main->window.lblSounds;
     m_main->window.lblSounds->setFocus(Qt::TabFocusReason);
+    QCOMPARE(label->accessibleDescription(), QStringLiteral("Am7"));
     QTest::keyClick(label, Qt::Key_Tab);
     QVERIFY(label->hasFocus());
+    QCOMPARE(label->accessibleDescription(), QStringLiteral("C6/A"));
     QTest::keyClick(label, Qt::Key_Return);
     QCOMPARE(m_main->window.lblChord->text(), QStringLiteral("C6"));
     QVERIFY(label->hasFocus());
