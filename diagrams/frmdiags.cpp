@@ -4,6 +4,8 @@
 #include "controls/messagebox.h"
 #include "core/numbers.h"
 #include "core/runtimeerror.h"
+#include "diagrams/accessiblepage.h"
+#include "diagrams/sheettexts.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -13,12 +15,12 @@
 
 frmDiags::frmDiags(AppState& state, std::function<BoardFingering()> board)
     : m_state(state), m_board(std::move(board)) {
+    InstallAccessiblePages();
     setObjectName(QStringLiteral("frmDiags"));
-    setWindowTitle(m_state.IsDefaultLanguage() ? QStringLiteral("Диаграмма аккордов")
-                                               : QStringLiteral("Tonvik Diags"));
     CreateControls();
     LayOut();
-    ApplyTongue();
+    ApplyTexts(*this, SheetTexts(), {}, {m_state.InterfaceTongue(), std::nullopt});
+    picPage->SetTongue(m_state.InterfaceTongue());
     Connect();
     ShowPages();
 }

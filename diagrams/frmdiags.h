@@ -95,7 +95,6 @@ private:
     void CreateControls();
     void LayOut();
     void Connect();
-    void ApplyTongue();
     void Form_Resize();
     void ShowRows();
     QString UnwrittenRows() const;

@@ -146,34 +146,3 @@ void frmDiags::Connect() {
     Handle(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
            &frmDiags::cmdSave_Click);
 }
-
-void frmDiags::ApplyTongue() {
-    const auto hint = [this](QWidget* control, const char16_t* russian, const char16_t* english) {
-        const QString text =
-            QString::fromUtf16(m_state.InterfaceTongue() == Tongue::Russian ? russian : english);
-        control->setToolTip(text);
-        control->setAccessibleName(text);
-    };
-    hint(cmdAdd, u"Добавить аппликатуру с грифа", u"Add the fingering on the neck");
-    hint(cmdDel, u"Убрать выбранную строку", u"Remove the selected row");
-    hint(cmdClear, u"Очистить список", u"Clear the list");
-    hint(cmdMake, u"Вписать весь список в текст", u"Write the whole list into the text");
-    hint(lstMain, u"Аппликатуры: щелчок вписывает строку в текст",
-         u"Fingerings: a click writes the row into the text");
-    hint(GoldButton1, u"Открыть файл (Ctrl+O)", u"Open a file (Ctrl+O)");
-    hint(cmdSave, u"Сохранить в файл (Ctrl+S)", u"Save to a file (Ctrl+S)");
-    hint(cmdImport, u"Взять текст из файла ChordPro", u"Take the text of a ChordPro file");
-    hint(cmdExport, u"Записать как PDF, SVG, PNG или ChordPro",
-         u"Write as PDF, SVG, PNG or ChordPro");
-    hint(cmdPrint, u"Печать (Ctrl+P)", u"Print (Ctrl+P)");
-    hint(cmdCut, u"Вырезать", u"Cut");
-    hint(cmdCopy, u"Копировать", u"Copy");
-    hint(cmdPast, u"Вставить", u"Paste");
-    hint(GoldButton2, u"Начертить шесть линий", u"Draw six lines");
-    hint(Text1, u"Длина линий в знаках", u"Length of the lines in characters");
-    picPage->setAccessibleName(
-        Phrase{QStringLiteral("Страницы листа"), QStringLiteral("Pages of the sheet")}.In(
-            m_state.InterfaceTongue()));
-    txtMain->setAccessibleName(QString::fromUtf16(
-        m_state.InterfaceTongue() == Tongue::Russian ? u"Текст листа" : u"Text of the sheet"));
-}

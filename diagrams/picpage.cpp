@@ -40,6 +40,7 @@ void PicPage::ShowPages(std::vector<SheetPage> pages, QSizeF paper) {
         m_current = -1;
     SetRange();
     viewport()->update();
+    Q_EMIT PagesShown();
 }
 
 double PicPage::Scale() const {
@@ -80,11 +81,22 @@ const PlacedDiagram* PicPage::DiagramAt(QPointF pixels) const {
     return nullptr;
 }
 
-const PlacedDiagram* PicPage::Current() const {
+const PlacedDiagram* PicPage::DiagramNumber(int index) const {
     const auto places = AllDiagrams();
-    return m_current >= 0 && m_current < static_cast<int>(places.size())
-               ? &At(places[static_cast<std::size_t>(m_current)])
+    return index >= 0 && index < static_cast<int>(places.size())
+               ? &At(places[static_cast<std::size_t>(index)])
                : nullptr;
+}
+
+const PlacedDiagram* PicPage::Current() const {
+    return DiagramNumber(m_current);
+}
+
+QRectF PicPage::PlaceOf(int index) const {
+    const PlacedDiagram* diagram = DiagramNumber(index);
+    return diagram == nullptr
+               ? QRectF()
+               : ToPixels(AllDiagrams()[static_cast<std::size_t>(index)].page, diagram->place);
 }
 
 const QPixmap& PicPage::Painted(int page) {
@@ -116,10 +128,9 @@ void PicPage::paintEvent(QPaintEvent*) {
         if (place.intersects(seen))
             painter.drawPixmap(place.topLeft(), Painted(page));
     }
-    if (const auto places = AllDiagrams(); hasFocus() && Current() != nullptr) {
+    if (hasFocus() && Current() != nullptr) {
         painter.setPen(QPen(Colours::focus.Now(), 2));
-        painter.drawRect(
-            ToPixels(places[static_cast<std::size_t>(m_current)].page, Current()->place));
+        painter.drawRect(PlaceOf(m_current));
     }
 }
 
@@ -156,28 +167,28 @@ void PicPage::contextMenuEvent(QContextMenuEvent* event) {
         Q_EMIT MenuAsked(*diagram, event->globalPos());
 }
 
-void PicPage::StepTo(int index) {
-    const auto places = AllDiagrams();
-    if (places.empty())
+void PicPage::GoTo(int index) {
+    const int count = DiagramCount();
+    if (count == 0)
         return;
-    m_current = std::clamp(index, 0, static_cast<int>(places.size()) - 1);
-    const QRectF place =
-        ToPixels(places[static_cast<std::size_t>(m_current)].page, Current()->place);
+    m_current = std::clamp(index, 0, count - 1);
+    const QRectF place = PlaceOf(m_current);
     QScrollBar* bar = verticalScrollBar();
     if (place.top() < 0)
         bar->setValue(bar->value() + static_cast<int>(place.top()) - gap);
     else if (place.bottom() > viewport()->height())
         bar->setValue(bar->value() + static_cast<int>(place.bottom()) + gap - viewport()->height());
     viewport()->update();
+    Q_EMIT CurrentMoved();
     Q_EMIT DiagramClicked(*Current());
 }
 
 void PicPage::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Left:
-        return StepTo(m_current - 1);
+        return GoTo(m_current - 1);
     case Qt::Key_Right:
-        return StepTo(m_current + 1);
+        return GoTo(m_current + 1);
     case Qt::Key_Home:
         return verticalScrollBar()->setValue(0);
     case Qt::Key_End:
@@ -195,6 +206,8 @@ void PicPage::keyPressEvent(QKeyEvent* event) {
 void PicPage::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+    // After the toolkit has told that the page has the focus.
+    QMetaObject::invokeMethod(this, &PicPage::CurrentMoved, Qt::QueuedConnection);
 }
 
 void PicPage::focusOutEvent(QFocusEvent* event) {

@@ -1,6 +1,7 @@
 // The sheet as it will be printed, one page below the other, as wide as there is room.
 #pragma once
 
+#include "core/phrase.h"
 #include "diagrams/sheetpages.h"
 
 #include <QAbstractScrollArea>
@@ -28,7 +29,22 @@ public:
     // it, and Enter lays it on the neck.
     const PlacedDiagram* Current() const;
 
+    // The diagrams of all pages, counted from 0 as they follow each other.
+    int DiagramCount() const { return static_cast<int>(AllDiagrams().size()); }
+    const PlacedDiagram* DiagramNumber(int index) const; // Null where there is none.
+    QRectF PlaceOf(int index) const;                     // In the viewport's pixels.
+    int CurrentNumber() const { return m_current; }      // -1 for none.
+
+    // Makes it the current one, which is brought into view and selected.
+    void GoTo(int index);
+
+    // What a screen reader is told about diagrams is in this language.
+    void SetTongue(Tongue tongue) { m_tongue = tongue; }
+    Tongue SpokenTongue() const { return m_tongue; }
+
 Q_SIGNALS:
+    void PagesShown();   // There may be other diagrams now...
+    void CurrentMoved(); // ...or the keyboard may be at another one.
     void DiagramClicked(const PlacedDiagram& diagram);
     void DiagramDoubleClicked(const PlacedDiagram& diagram);
     void MenuAsked(const PlacedDiagram& diagram, QPoint screen);
@@ -55,13 +71,13 @@ private:
     void SetRange();
     std::vector<DiagramPlace> AllDiagrams() const;
     const PlacedDiagram& At(DiagramPlace place) const;
-    void StepTo(int index);
     const QPixmap& Painted(int page);
 
     std::vector<SheetPage> m_pages;
     QSizeF m_paper;
     QHash<int, QPixmap> m_painted; // Of pages that were seen, at the present scale.
     int m_current = -1;            // Counted over all pages.
-    TextSpan m_pressed;            // What the mouse went down on.
+    Tongue m_tongue = Tongue::Russian;
+    TextSpan m_pressed; // What the mouse went down on.
     bool m_wasPressed = false;
 };

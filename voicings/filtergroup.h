@@ -4,7 +4,6 @@
 #include "controls/dropdown.h"
 #include "controls/goldbutton.h"
 #include "controls/textlabel.h"
-#include "core/phrase.h"
 #include "music/voicingchoice.h"
 
 #include <QCheckBox>
@@ -12,7 +11,7 @@
 class QGridLayout;
 
 struct FilterGroup {
-    // Makes the controls as the window's children, which lets everything pass.
+    // Makes the controls as the window's children; the window gives them their texts.
     explicit FilterGroup(QWidget* window);
 
     QGridLayout* filters; // For the window to place.
@@ -39,10 +38,6 @@ struct FilterGroup {
     // The filters as at first, without a change told for each.
     void LetAllPass();
 
-    // Texts in the language; what is chosen stays.
-    void ShowTexts(Tongue tongue);
-
-private:
     std::array<DropDown*, 6> Lists() const {
         return {lstFromFret, lstToFret, lstOpenStrings, lstFingers, lstBass, lstOrder};
     }

@@ -2,9 +2,11 @@
 #include "controls/application.h"
 #include "controls/textlabel.h"
 #include "controls/windowtexts.h"
+#include "diagrams/frmdiags.h"
 #include "info/frmhelp.h"
 #include "settings/frmsettings.h"
 #include "support/mainwindow.h"
+#include "voicings/frmvoicings.h"
 
 #include <QAbstractButton>
 
@@ -20,7 +22,7 @@ namespace {
 
 // Controls that show a state or a picture, and so have no text of their own.
 const QStringList withoutText{QStringLiteral("lblHint"), QStringLiteral("Label1"),
-                              QStringLiteral("lblFound")};
+                              QStringLiteral("lblFound"), QStringLiteral("lblSaved")};
 
 // The controls that a user can read or work, and that nothing says what they are for.
 QStringList Textless(const QWidget& window) {
@@ -100,6 +102,19 @@ void CaptionsTest::Languages() {
     QTRY_COMPARE(Clipped(settings), QString());
     QCOMPARE(Textless(settings), QStringList());
     QVERIFY(settings.width() <= 1024 && settings.height() <= 560);
+
+    frmVoicings voicings(main.state);
+    voicings.show();
+    voicings.ShowState(main.workbench.ToPlay(), {}, {}, {});
+    QCoreApplication::processEvents();
+    QTRY_COMPARE(Clipped(voicings), QString());
+    QCOMPARE(Textless(voicings), QStringList());
+
+    frmDiags sheet(main.state, [] { return BoardFingering(); });
+    sheet.show();
+    QCoreApplication::processEvents();
+    QTRY_COMPARE(Clipped(sheet), QString());
+    QCOMPARE(Textless(sheet), QStringList());
 
     frmHelp help(main.state, [] { return ChordRows{12, 50}; });
     help.show();
