@@ -60,6 +60,9 @@ private:
         const QSizeF size = DiagramLayout::Size(true);
         double x = 0;
         bool begun = false;
+        if (m_belowHeading)
+            m_y += rowGap;
+        m_belowHeading = false;
         for (const SheetDiagram& source : row.diagrams) {
             if (begun && x + size.width() > m_width) {
                 m_y += size.height() + rowGap;
@@ -94,9 +97,11 @@ private:
                 AddText(0, 0, line.style, piece);
             EndLine(height, line.chorus);
         }
+        m_belowHeading = line.style == TextStyle::Title || line.style == TextStyle::Subtitle;
     }
 
     void Place(const LyricLine& lyrics) {
+        m_belowHeading = false;
         const double chords = LineHeight(TextStyle::Chord);
         const double height = chords + LineHeight(TextStyle::Lyrics);
         for (const auto& line : BreakLyrics(lyrics.parts, m_width, m_look.width)) {
@@ -119,6 +124,7 @@ private:
     }
 
     void NextPage() {
+        m_belowHeading = false;
         m_pages.emplace_back();
         m_y = pageMargin;
     }
@@ -154,6 +160,7 @@ private:
     double m_bottom;
     std::vector<SheetPage> m_pages = std::vector<SheetPage>(1);
     double m_y = pageMargin;
+    bool m_belowHeading = false;
 };
 
 } // namespace

@@ -3,10 +3,12 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFontInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QSvgGenerator>
 
 #include <algorithm>
@@ -54,6 +56,24 @@ bool IsWhole(const QString& path) {
            file.readAll().contains("%%EOF");
 }
 
+// The name of a font is known on this machine alone: others fall back to a kind of letters.
+QByteArray WithFallbacks(const QByteArray& svg) {
+    static const QRegularExpression family(QStringLiteral("font-family=\"([^\"]+)\""));
+    QString text = QString::fromUtf8(svg);
+    QStringList families;
+    for (auto found = family.globalMatch(text); found.hasNext();)
+        families += found.next().captured(1);
+    families.removeDuplicates();
+    for (const QString& name : families) {
+        const QFontInfo font{QFont(name)};
+        const auto kind =
+            font.fixedPitch() ? QStringLiteral("monospace") : QStringLiteral("sans-serif");
+        text.replace(QStringLiteral("font-family=\"%1\"").arg(name),
+                     QStringLiteral("font-family=\"%1, %2\"").arg(font.family(), kind));
+    }
+    return text.toUtf8();
+}
+
 class ToolkitPrinting : public Printing {
 public:
     QByteArray Pdf(const PaintedPages& pages, const QString& title) const override {
@@ -84,7 +104,7 @@ public:
         if (!painter.begin(&generator))
             return {};
         pages.paint(painter, page);
-        return painter.end() ? bytes : QByteArray();
+        return painter.end() ? WithFallbacks(bytes) : QByteArray();
     }
 
     bool Preview(QWidget* owner, const QString& title, QSizeF paper,

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void EveryDotIsInTheSvg_data();
     void EveryDotIsInTheSvg();
     void SvgIsWellFormed();
+    void SvgNamesLettersThatEveryReaderHas();
     void APageAFile();
     void PdfHasItsPagesAndFonts();
     void PngHasTwoPixelsToAPoint();
@@ -132,6 +133,19 @@ void SheetExportTest::SvgIsWellFormed() {
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
     QVERIFY(texts.contains(QStringLiteral("a < b & \"c\" / d")));
     QVERIFY(texts.contains(QStringLiteral("C<&/")));
+}
+
+void SheetExportTest::SvgNamesLettersThatEveryReaderHas() {
+    Export(QStringLiteral("Am - 011000\n{sot}\n--0--\n{eot}"));
+    ExportSvg(m_folder.Path(QStringLiteral("s.svg")), m_painted, QString(), Library());
+    const QString svg = QString::fromUtf8(Bytes(QStringLiteral("s.svg")));
+    static const QRegularExpression family(QStringLiteral("font-family=\"([^\"]*)\""));
+    QStringList kinds;
+    for (auto found = family.globalMatch(svg); found.hasNext();)
+        kinds += found.next().captured(1).section(QStringLiteral(", "), -1);
+    kinds.removeDuplicates();
+    kinds.sort();
+    QCOMPARE(kinds, (QStringList{QStringLiteral("monospace"), QStringLiteral("sans-serif")}));
 }
 
 void SheetExportTest::APageAFile() {
