@@ -64,7 +64,7 @@ void OpenVoicings(benchmark::State& state) {
     for (auto _ : state) {
         frmVoicings window(shared);
         window.show();
-        window.ShowState(playing, found, {});
+        window.ShowState(playing, found, {}, {});
         QCoreApplication::processEvents();
     }
     state.counters["voicings"] = static_cast<double>(found.shapes.size());
@@ -82,7 +82,7 @@ void ScrollVoicings(benchmark::State& state) {
     AppState shared;
     frmVoicings window(shared);
     window.show();
-    window.ShowState(playing, found, {});
+    window.ShowState(playing, found, {}, {});
     QScrollBar* bar = window.lstVoicings->verticalScrollBar();
     QCoreApplication::processEvents();
     for (auto _ : state) {

@@ -192,5 +192,5 @@ void StartUp::OpenVoicings() {
 void StartUp::ShowVoicings() {
     if (m_voicings && m_voicings->isVisible())
         m_voicings->ShowState(m_window->Playing().Chord(), m_window->Playing().Found(),
-                              m_workbench->NeckShape());
+                              m_workbench->NeckShape(), m_workbench->HandShape());
 }

@@ -3,11 +3,13 @@
 #include "controls/handle.h"
 #include "controls/newcontrols.h"
 #include "pictures/shapewords.h"
+#include "voicings/voicingstexts.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 
 frmVoicings::frmVoicings(const AppState& state)
     : FilterGroup(this),
@@ -20,7 +22,7 @@ frmVoicings::frmVoicings(const AppState& state)
     window->addWidget(lblVoicings);
     window->addWidget(lstVoicings, 1);
 
-    for (DropDown* list : {lstFromFret, lstToFret, lstOpenStrings, lstFingers, lstBass, lstOrder})
+    for (DropDown* list : Lists())
         Handle(list, &DropDown::RowChosen, this, &frmVoicings::Choose);
     for (QCheckBox* box : {chkNoBarre, chkComplete})
         Handle(box, &QCheckBox::stateChanged, this, &frmVoicings::Choose);
@@ -39,33 +41,45 @@ frmVoicings::frmVoicings(const AppState& state)
            [this](int row) { Ask(&frmVoicings::SaveAsked, row); });
     lstVoicings->Rows().SetRemark([this](const Shape& shape) {
         return Order() == VoicingOrder::Movement
-                   ? MovementInWords(MovementBetween(m_neck, shape), m_state.InterfaceTongue())
+                   ? MovementInWords(MovementBetween(m_hand, shape), m_state.InterfaceTongue())
                    : QString();
     });
+    ShowTexts(Tongue::Russian);
+    LetAllPass();
     constexpr double cellScale = 1.25;
     lstVoicings->SetScale(cellScale);
     lstVoicings->setFocus();
 }
 
-void frmVoicings::ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck) {
-    const Tongue tongue = m_state.InterfaceTongue();
-    const Shape held = WithFingers(neck);
-    const bool moved = held != m_neck && !m_asking && Order() == VoicingOrder::Movement;
-    const bool changed = playing != m_playing || tongue != m_tongue;
-    if (tongue != m_tongue) {
-        m_tongue = tongue;
-        setWindowTitle(tongue == Tongue::Russian ? QStringLiteral("Аппликатуры")
-                                                 : QStringLiteral("Every way to play it"));
-        lstVoicings->SetTongue(tongue);
-        lstVoicings->setAccessibleName(windowTitle());
-        ShowTexts(tongue);
+// What is chosen in the lists stays.
+void frmVoicings::ShowTexts(Tongue tongue) {
+    std::array<int, 6> rows{};
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rows[i] = Lists()[i]->currentIndex();
+    ApplyTexts(*this, VoicingsTexts(), {}, {tongue, std::nullopt});
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const QSignalBlocker silent(Lists()[i]);
+        Lists()[i]->setCurrentIndex(rows[i]);
     }
+    lstVoicings->SetTongue(tongue);
+    m_tongue = tongue;
+}
+
+void frmVoicings::ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck,
+                            const Shape& hand) {
+    const Tongue tongue = m_state.InterfaceTongue();
+    const Shape held = WithFingers(hand);
+    const bool moved = held != m_hand && !m_asking && Order() == VoicingOrder::Movement;
+    const bool changed = playing != m_playing || tongue != m_tongue;
+    if (tongue != m_tongue)
+        ShowTexts(tongue);
     if (changed) {
         m_playing = playing;
         m_found = found;
     }
+    m_neck = neck;
     if (!m_asking)
-        m_neck = held;
+        m_hand = held;
     lstVoicings->SetLeftHanded(m_state.LeftHanded);
     if (changed || moved)
         Choose();
@@ -77,7 +91,7 @@ void frmVoicings::ShowState(const ChordToPlay& playing, const Voicings& found, c
 
 void frmVoicings::Choose() {
     const Tongue tongue = m_state.InterfaceTongue();
-    auto chosen = ChooseVoicings(m_found.shapes, m_playing.chord, Filter(), Order(), m_neck);
+    auto chosen = ChooseVoicings(m_found.shapes, m_playing.chord, Filter(), Order(), m_hand);
     const auto count = static_cast<int>(chosen.size());
     lstVoicings->Rows().Show(std::move(chosen), m_playing.name, tongue);
     lblVoicings->setText(VoicingsInWords(count, m_found, m_playing.chord, tongue));

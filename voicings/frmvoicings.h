@@ -17,8 +17,9 @@ public:
     TextLabel* lblVoicings;
     VoicingList* lstVoicings;
 
-    // The chord, every way to play it, and what the hand holds now.
-    void ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck);
+    // The chord, every way to play it, what is on the neck, and what the hand comes from.
+    void ShowState(const ChordToPlay& playing, const Voicings& found, const Shape& neck,
+                   const Shape& hand);
 
 Q_SIGNALS:
     void LayAsked(const Shape& shape);
@@ -31,6 +32,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void ShowTexts(Tongue tongue);
     void Choose();
     void cmdAll_Click();
 
@@ -40,7 +42,8 @@ private:
     const AppState& m_state;
     ChordToPlay m_playing;
     Voicings m_found;
-    Shape m_neck; // From which the hand moves.
+    Shape m_neck;
+    Shape m_hand; // From which it moves.
     bool m_asking = false;
-    std::optional<Tongue> m_tongue;
+    Tongue m_tongue = Tongue::Russian;
 };

@@ -74,6 +74,7 @@ void Workbench::LayShape(const Shape& shape) {
         laid.currentFret = laid.automaticFret = fret;
         laid.note = NoteAt(row, fret);
     }
+    m_hand = NeckShape();
     FindMissing();
 }
 

@@ -105,6 +105,10 @@ public:
     // spans. Which finger holds which string is not known.
     Shape NeckShape() const;
 
+    // What the hand held when it last did something itself. Fingers that a chosen chord has placed
+    // are none of its own; with nothing before them, they are all there is.
+    Shape HandShape() const;
+
     ChordToPlay ToPlay() const;
 
     // What players call what sounds, best first, at most four names; the chosen chord's first
@@ -138,6 +142,7 @@ private:
     void MarkChord();
     void NameChosenChord();
     void BeginChoice(bool ofScale);
+    void EndChoice();
     void ClearFingering();
     void ShowMarkedKeyNames();
     void FindMissing();
@@ -153,6 +158,9 @@ private:
     std::array<StringRow, stringCount> m_rows;
     std::optional<Barre> m_barre;                            // As it was when it was switched on.
     std::optional<std::array<bool, stringCount>> m_ownMutes; // The user's, under a laid shape.
+
+    std::optional<Shape> m_placed; // By choosing a chord or a scale...
+    std::optional<Shape> m_hand;   // ...and what the hand held before.
 
     int m_rootRow = -1;
     QString m_rootName;

@@ -14,6 +14,7 @@ void Workbench::ChooseRoot(int row, const QString& name) {
     NameChosenChord();
     SpellChord();
     PlaceFingers();
+    EndChoice();
 }
 
 void Workbench::ChooseType(int row) {
@@ -25,6 +26,7 @@ void Workbench::ChooseType(int row) {
     m_chordHint = AlternativeNames();
     SpellChord();
     PlaceFingers();
+    EndChoice();
 }
 
 void Workbench::ChooseChord(int rootRow, int typeRow, std::optional<PitchClass> bass) {
@@ -50,6 +52,17 @@ void Workbench::BeginChoice(bool ofScale) {
     m_preferredBass.reset();
     m_scaleRules = ofScale;
     m_ringsShown = ofScale;
+    if (m_placed && NeckShape() != *m_placed)
+        m_hand = NeckShape();
+}
+
+void Workbench::EndChoice() {
+    m_placed = NeckShape();
+}
+
+Shape Workbench::HandShape() const {
+    const Shape neck = NeckShape();
+    return neck == m_placed && m_hand ? *m_hand : neck;
 }
 
 void Workbench::NameChosenChord() {
@@ -85,6 +98,7 @@ void Workbench::ChooseScale(int row, const QString& name) {
     m_chordName = m_rootName + u' ' + name;
     m_namesChord = false;
     ShowMarkedKeyNames();
+    EndChoice();
 }
 
 QString Workbench::AlternativeNames() const {

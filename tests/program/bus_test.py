@@ -85,6 +85,24 @@ def extents(node):
     return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
 
 
+OPERABLE = (
+    pyatspi.ROLE_PUSH_BUTTON,
+    pyatspi.ROLE_CHECK_BOX,
+    pyatspi.ROLE_COMBO_BOX,
+    pyatspi.ROLE_SLIDER,
+    pyatspi.ROLE_SCROLL_BAR,
+    pyatspi.ROLE_TEXT,
+)
+
+
+def nameless_controls(window):
+    return [
+        one.getRoleName()
+        for one in descendants(window)
+        if one.getRole() in OPERABLE and not one.name
+    ]
+
+
 class Program:
     """The program in a folder of its own, with the settings given."""
 
@@ -108,6 +126,10 @@ class Program:
                     if window and window.name in ("Тонвик", "Tonvik") and starting(window, "C"):
                         return window
         return None
+
+    def other_window(self, name):
+        """Another window of the program, once it is open."""
+        return wait_until(lambda: named(self.window.parent, name))
 
     def end(self):
         self.process.terminate()
@@ -247,21 +269,44 @@ class Russian(unittest.TestCase):
                 self.assertLessEqual(inside.x + inside.width, around.x + around.width + 1)
                 self.assertGreater(inside.width * inside.height, 0)
 
-    def test_every_control_has_a_name(self):
-        operable = (
-            pyatspi.ROLE_PUSH_BUTTON,
-            pyatspi.ROLE_CHECK_BOX,
-            pyatspi.ROLE_COMBO_BOX,
-            pyatspi.ROLE_SLIDER,
-            pyatspi.ROLE_SCROLL_BAR,
-            pyatspi.ROLE_TEXT,
+    def test_ways_to_play_are_read(self):
+        first = (
+            "C, x32010: струна 6 не звучит, струна 5 третий лад, безымянный палец, "
+            "струна 4 второй лад, средний палец, струна 3 открыта, "
+            "струна 2 первый лад, указательный палец, струна 1 открыта"
         )
-        nameless = [
-            one.getRoleName()
-            for one in descendants(self.window)
-            if one.getRole() in operable and not one.name
-        ]
-        self.assertEqual(nameless, [])
+        strip = wait_until(lambda: starting(self.window, "Аппликатуры аккорда"))
+        self.assertEqual(strip.childCount, 706)
+        self.assertEqual(strip.getChildAtIndex(0).name, first)
+        wait_until(lambda: named(self.window, "Аппликатур: 706"))
+        press(starting(self.window, "Все аппликатуры аккорда"))
+        window = self.program.other_window("Аппликатуры")
+        grid = wait_until(lambda: starting(window, "Аппликатуры"))
+        self.assertEqual(grid.childCount, 706)
+        self.assertEqual(grid.getChildAtIndex(0).name, first)
+        self.assertEqual(nameless_controls(window), [])
+        named(window, "без барре").queryAction().doAction(0)
+        wait_until(lambda: starting(window, "Показано: "))
+        wait_until(lambda: 0 < grid.childCount < 706)
+
+    def test_the_sheet_is_read(self):
+        press(starting(self.window, "Добавить то, что на грифе"))
+        press(starting(self.window, "Диаграммы аккордов"))
+        sheet = self.program.other_window("Диаграмма аккордов")
+        # The bars that move a text say nothing that its lines do not.
+        self.assertEqual(set(nameless_controls(sheet)) - {"scroll bar"}, set())
+        press(starting(sheet, "Вписать весь список"))
+        pages = wait_until(lambda: named(sheet, "Страницы листа"))
+        wait_until(lambda: pages.childCount == 1)
+        diagram = pages.getChildAtIndex(0)
+        self.assertTrue(diagram.name.startswith("C, 032010: струна 6 открыта"))
+        self.board.getChildAtIndex(1).queryValue().currentValue = 0
+        wait_until(lambda: self.board.getChildAtIndex(1).name == "струна 5, A, открыта")
+        act(diagram, "Поставить на гриф")
+        wait_until(lambda: self.board.getChildAtIndex(1).name == "струна 5, A, лад 3, C")
+
+    def test_every_control_has_a_name(self):
+        self.assertEqual(nameless_controls(self.window), [])
 
 
 class English(unittest.TestCase):

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void StringsThatSound();
     void NothingPasses();
     void NearTheHand();
+    void NearTheHandNotTheNeck();
     void RowsStayWhileOneIsLaid();
     void ClickEnterAndDoubleClick();
     void EscapeCloses();
@@ -26,7 +27,10 @@ private Q_SLOTS:
     void OpensManyAtOnce();
 
 private:
-    void Show(const Shape& neck = {}) { m_window->ShowState(m_workbench->ToPlay(), m_found, neck); }
+    void Show(const Shape& neck = {}) { Show(neck, neck); }
+    void Show(const Shape& neck, const Shape& hand) {
+        m_window->ShowState(m_workbench->ToPlay(), m_found, neck, hand);
+    }
     QString Text(int row, int role = Qt::DisplayRole) {
         return m_window->lstVoicings->model()->index(row, 0).data(role).toString();
     }
@@ -119,6 +123,14 @@ void FrmVoicingsTest::NearTheHand() {
     QVERIFY(!Text(1, Qt::ToolTipRole).contains(QStringLiteral("Рука: ")));
 }
 
+void FrmVoicingsTest::NearTheHandNotTheNeck() {
+    m_window->lstOrder->SelectRow(3);
+    Show(*ReadShape(u"x35553"), *ReadShape(u"x32010"));
+    QCOMPARE(Text(0), QStringLiteral("x32010"));
+    QCOMPARE(Text(m_window->lstVoicings->CurrentRow()), QStringLiteral("x35553"));
+    QVERIFY(m_window->lstOrder->toolTip().contains(QStringLiteral("вы последним поставили")));
+}
+
 void FrmVoicingsTest::RowsStayWhileOneIsLaid() {
     m_window->lstOrder->SelectRow(3);
     Show(*ReadShape(u"x35553"));
@@ -175,7 +187,7 @@ void FrmVoicingsTest::OpensManyAtOnce() {
         playing.chord.tuning[static_cast<std::size_t>(string - 1)] = StringTunedTo(string, note);
     }
     const auto found = FindVoicings(playing.chord.notes, 0, playing.chord.tuning);
-    m_window->ShowState(playing, found, {});
+    m_window->ShowState(playing, found, {}, {});
     QCOMPARE(Rows(), static_cast<int>(found.shapes.size()));
     QVERIFY(Rows() > 2000);
     m_window->lstVoicings->BringIntoView(Rows() - 1);
