@@ -1,6 +1,7 @@
 // What help.dat may hold, and what of it reaches the text box.
 #include "core/runtimeerror.h"
 #include "info/helptext.h"
+#include "support/oddfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,6 +34,13 @@ private Q_SLOTS:
         file.write(bytes);
         file.close();
         QCOMPARE(ReadHelp(Folder()), text);
+    }
+
+    void WhatIsNoFileCannotBeRead_data() { OddFiles(); }
+    void WhatIsNoFileCannotBeRead() {
+        QFETCH(const QString, kind);
+        QVERIFY(MakeOddFile(kind, Folder() + QStringLiteral("help.dat")));
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, ReadHelp(Folder()));
     }
 
     void AFolderOfThatNameCannotBeRead() {
