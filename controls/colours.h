@@ -39,8 +39,8 @@ constexpr Shade frame(0xF3EEE5, 0x2A2621);     // Inside a frame.
 constexpr Shade line(0xCDC2B0, 0x4A433A);      // Frames and dividers: they part, they mark nothing.
 constexpr Shade edge(0x8C806E, 0x8C8171);      // Around what can be operated.
 constexpr Shade buttonFace(0xEFE8DB, 0x3A342C);
-constexpr Shade checked(0xDCCFB6, 0x5A4B34); // The face of a button that is switched on.
-constexpr Shade buttonLight(0xFFFFFF, 0x5B5246);
+constexpr Shade pointedFace(0xEFE8DB, 0xD8CBB0); // Of a button whose caption is blue.
+constexpr Shade checked(0xDCCFB6, 0x5A4B34);     // The face of a button that is switched on.
 constexpr Shade buttonShadow(0xA89B87, 0x16130F);
 constexpr Shade buttonDark(0x6B6052, 0x0C0A08);
 constexpr Shade selection(0x8C4A1C, 0xE2A45C);    // Behind the selected row, and what stands out.

@@ -1,6 +1,7 @@
 #include "controls/focusring.h"
 
 #include "controls/colours.h"
+#include "controls/lengths.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -85,6 +86,6 @@ void FocusRing::Paint(QPainter& painter, const QPainterPath& area) {
 
 void FocusRing::Paint(QPainter& painter, const QRectF& area) {
     QPainterPath path;
-    path.addRect(area);
+    path.addRoundedRect(area, Lengths::corner, Lengths::corner);
     Paint(painter, path);
 }

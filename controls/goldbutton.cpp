@@ -115,6 +115,9 @@ void GoldButton::paintEvent(QPaintEvent*) {
         look.edge = m_onDown;
         look.palette.setColor(QPalette::Button, Colours::checked.Now());
     }
+    const bool pointed = state == State::Hover || state == State::Down;
+    if (pointed && PictureOf(state).isNull())
+        look.palette.setColor(QPalette::Button, Colours::pointedFace.Now());
     look.caption = Caption();
     look.alignment = m_alignment;
     look.skinned = m_style == bsSkin;

@@ -3,8 +3,11 @@
 #include "controls/edge.h"
 #include "controls/elided.h"
 #include "controls/focusring.h"
+#include "controls/lengths.h"
 
 #include <QPainter>
+#include <QPainterPath>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -78,6 +81,25 @@ void PaintSkin(QPainter& painter, const QRect& rect, const QPixmap& skin, int pa
     }
 }
 
+QPainterPath Face(const QRect& rect, double inset) {
+    QPainterPath face;
+    face.addRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), Lengths::corner,
+                        Lengths::corner);
+    return face;
+}
+
+// The edges end where the corners of all controls begin; a line leads around these.
+void PaintCorners(QPainter& painter, const QRect& rect, const QPalette& palette) {
+    const int corner = qCeil(Lengths::corner);
+    const QRect across = rect.adjusted(corner, 0, -corner, 0);
+    const QRect along = rect.adjusted(0, corner, 0, -corner);
+    painter.save();
+    painter.setClipRegion(QRegion(rect).subtracted(across).subtracted(along));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(Face(rect, 0.5), palette.color(QPalette::Dark));
+    painter.restore();
+}
+
 QPixmap Masked(const QPixmap& picture, const PictureMask& mask) {
     QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
@@ -123,11 +145,17 @@ QSize GoldButtonSize(const QString& caption, QSize picture, const QFontMetrics& 
 }
 
 void PaintGoldButton(QPainter& painter, const GoldButtonLook& look) {
+    painter.save();
+    if (!look.skinned)
+        painter.setClipPath(Face(look.rect, 0));
     painter.fillRect(look.rect, look.palette.color(QPalette::Button));
     if (look.skinned && !look.skin.isNull())
         PaintSkin(painter, look.rect, look.skin, look.part);
     else
         PaintEdge(painter, look.rect, look.edge, look.palette);
+    painter.restore();
+    if (!look.skinned && look.edge != 0)
+        PaintCorners(painter, look.rect, look.palette);
 
     const QFontMetrics metrics(painter.font());
     const QRect inner = look.rect.adjusted(marginX, 0, -marginX, 0);

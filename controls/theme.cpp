@@ -2,7 +2,9 @@
 
 #include "controls/colours.h"
 #include "controls/elided.h"
+#include "controls/faces.h"
 #include "controls/focusring.h"
+#include "controls/lengths.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -41,6 +43,9 @@ public:
             QStyleOptionButton button = *static_cast<const QStyleOptionButton*>(option);
             button.state.setFlag(State_HasFocus, false);
             QProxyStyle::drawControl(element, &button, painter, widget);
+        } else if (element == CE_ShapedFrame && IsStyledPanel(*option)) {
+            PaintFace(*painter, QRectF(option->rect), option->palette.color(QPalette::Base),
+                      Colours::edge);
         } else {
             QProxyStyle::drawControl(element, option, painter, widget);
         }
@@ -72,14 +77,23 @@ public:
                 qobject_cast<const QAbstractItemView*>(widget) == nullptr)
                 FocusRing::Paint(*painter, QRectF(option->rect));
             break;
-        case PE_FrameLineEdit: {
-            QStyleOptionFrame frame = *static_cast<const QStyleOptionFrame*>(option);
-            frame.state.setFlag(State_HasFocus, false);
-            QProxyStyle::drawPrimitive(element, &frame, painter, widget);
+        case PE_PanelLineEdit:
+            PaintFace(*painter, QRectF(option->rect), option->palette.color(QPalette::Base),
+                      Colours::edge);
             if (FocusRing::IsShown(widget))
                 FocusRing::Paint(*painter, QRectF(option->rect));
             break;
-        }
+        case PE_PanelButtonCommand:
+            PaintButtonFace(*option, *painter);
+            break;
+        case PE_IndicatorCheckBox:
+            PaintCheck(*painter, QRectF(option->rect), option->state.testFlag(State_On),
+                       option->state.testFlag(State_Enabled));
+            break;
+        case PE_IndicatorRadioButton:
+            PaintOption(*painter, QRectF(option->rect), option->state.testFlag(State_On),
+                        option->state.testFlag(State_Enabled));
+            break;
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         }
@@ -116,6 +130,22 @@ public:
     }
 
 private:
+    static bool IsStyledPanel(const QStyleOption& option) {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+        return frame != nullptr && frame->frameShape == QFrame::StyledPanel;
+    }
+
+    static void PaintButtonFace(const QStyleOption& option, QPainter& painter) {
+        const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+        const bool down = option.state.testFlag(State_Sunken) || option.state.testFlag(State_On);
+        const bool hovered = option.state.testFlag(State_MouseOver);
+        const bool chosen =
+            button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+        PaintFace(painter, QRectF(option.rect),
+                  down || hovered ? Colours::checked.Now() : Colours::buttonFace.Now(),
+                  chosen ? Colours::selection.Now() : Colours::edge.Now());
+    }
+
     static void PaintGroupBox(const QStyleOption& option, QPainter& painter,
                               const QWidget* widget) {
         painter.save();
@@ -125,7 +155,8 @@ private:
         const auto* box = qobject_cast<const QGroupBox*>(widget);
         const bool titled = box != nullptr && !box->title().isEmpty();
         const int above = titled ? option.fontMetrics.height() + 3 : 3;
-        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, above + 0.5, -0.5, -0.5), 3, 3);
+        painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, above + 0.5, -0.5, -0.5),
+                                Lengths::corner, Lengths::corner);
         painter.restore();
     }
 };
@@ -139,10 +170,10 @@ QPalette ThemePalette() {
     palette.setColor(QPalette::ButtonText, Colours::text);
     palette.setColor(QPalette::Base, Colours::field);
     palette.setColor(QPalette::AlternateBase, Colours::fieldStripe);
-    palette.setColor(QPalette::Light, Colours::buttonLight);
+    palette.setColor(QPalette::Light, Colours::edge);
     palette.setColor(QPalette::Midlight, Colours::window);
     palette.setColor(QPalette::Mid, Colours::line);
-    palette.setColor(QPalette::Dark, Colours::buttonShadow);
+    palette.setColor(QPalette::Dark, Colours::edge);
     palette.setColor(QPalette::Shadow, Colours::buttonDark);
     palette.setColor(QPalette::Highlight, Colours::selection);
     palette.setColor(QPalette::HighlightedText, Colours::selectionText);

@@ -38,6 +38,15 @@ void VoicingList::SetScale(double scale) {
     updateGeometry();
 }
 
+void VoicingList::SetStripRows(int rows) {
+    if (rows == m_stripRows)
+        return;
+    m_stripRows = rows;
+    setWrapping(rows > 1);
+    setVerticalScrollBarPolicy(rows > 1 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    updateGeometry();
+}
+
 void VoicingList::SetLeftHanded(bool leftHanded) {
     static_cast<VoicingDelegate*>(itemDelegate())->SetLeftHanded(leftHanded);
     viewport()->update();
@@ -63,7 +72,7 @@ void VoicingList::currentChanged(const QModelIndex& current, const QModelIndex& 
 QSize VoicingList::sizeHint() const {
     constexpr int shownColumns = 8;
     constexpr int shownRows = 5;
-    const int rows = m_flow == Flow::Grid ? shownRows : 1;
+    const int rows = m_flow == Flow::Grid ? shownRows : m_stripRows;
     const int bar = m_flow == Flow::Grid ? verticalScrollBar()->sizeHint().width() : 0;
     const int frame = 2 * frameWidth() + 2; // The last column needs a pixel to spare.
     return {Cell().width() * shownColumns + frame + bar, Cell().height() * rows + frame};
@@ -113,7 +122,7 @@ void VoicingList::keyPressEvent(QKeyEvent* event) {
 
 // A wheel turned towards the user leads on, as there is nothing below a strip.
 void VoicingList::wheelEvent(QWheelEvent* event) {
-    if (m_flow == Flow::Grid || event->angleDelta().x() != 0)
+    if (m_flow == Flow::Grid || m_stripRows > 1 || event->angleDelta().x() != 0)
         return QListView::wheelEvent(event);
     constexpr int notch = 120;
     QScrollBar* bar = horizontalScrollBar();

@@ -23,6 +23,9 @@ public:
     void SetScale(double scale);
     QSize Cell() const { return (QSizeF(smallestCell) * m_scale).toSize(); }
 
+    // So many rows of a strip stand below each other; more than one are read line by line.
+    void SetStripRows(int rows);
+
     // Diagrams and their order of strings from the other side.
     void SetLeftHanded(bool leftHanded);
     Tongue InTongue() const { return m_tongue; }
@@ -61,5 +64,6 @@ private:
     VoicingModel m_model;
     Tongue m_tongue = Tongue::Russian;
     double m_scale = 1;
+    int m_stripRows = 1;
     bool m_settingRow = false;
 };

@@ -5,6 +5,7 @@
 #include "controls/messagebox.h"
 #include "controls/theme.h"
 #include "controls/windowtexts.h"
+#include "core/datafile.h"
 #include "core/language.h"
 #include "core/profile.h"
 #include "core/settings.h"
@@ -85,6 +86,10 @@ void StartUp::Main() {
     m_splash->ProgressStep();
     m_splash.reset();
     ConnectWindows();
+    if (!FileExists(m_state.SettingsFile()))
+        m_window->ShowNotice(
+            {QStringLiteral("Выберите аккорд слева; щёлкните по струне; сыграйте: F6."),
+             QStringLiteral("Choose a chord on the left; click a string; play: F6.")});
     m_window->OpenAtBestSize(m_window->screen()->availableGeometry().size());
     m_window->show();
 }

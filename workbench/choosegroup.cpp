@@ -25,12 +25,17 @@ ChooseGroup::ChooseGroup(QWidget* window)
     grid->setRowStretch(2, 2);
     grid->setColumnStretch(1, 1);
     Label5->setMinimumWidth(1); // The lists decide how wide the frame is.
-    const int digit = window->fontMetrics().horizontalAdvance(u'0');
+    FitToLetters();
+}
+
+void ChooseGroup::FitToLetters() const {
+    const QFontMetrics metrics = Frame1->fontMetrics();
+    const int digit = metrics.horizontalAdvance(u'0');
     lstBase->setFixedWidth(digit * 7);
     lstType->setMinimumWidth(digit * 17);
     lstLad->setMinimumWidth(digit * 17);
-    lstType->setMinimumHeight(lstType->fontMetrics().height() * 5);
-    lstLad->setMinimumHeight(lstLad->fontMetrics().height() * 4);
+    lstType->setMinimumHeight(metrics.height() * 5);
+    lstLad->setMinimumHeight(metrics.height() * 4);
 }
 
 void ChooseGroup::ShowRows(const Workbench& workbench) const {

@@ -21,6 +21,9 @@ struct ChooseGroup {
     PromptField* txtFind;
     GoldButton* cmdFind;
 
+    // Measures the lists anew by the letters of the frame.
+    void FitToLetters() const;
+
     // The rows that are chosen.
     void ShowRows(const Workbench& workbench) const;
 };

@@ -54,8 +54,8 @@ void frmMain::LayOut() {
     work->addWidget(Frame2);
     work->addWidget(Frame3);
     work->addWidget(Frame4);
-    work->addWidget(Frame5);
     work->addStretch(1);
+    work->addWidget(Frame5);
 
     auto* window = Spaced(new QHBoxLayout(this), layoutGap + layoutGap / 2);
     window->addWidget(Frame1);
@@ -126,7 +126,7 @@ void frmMain::OpenAtBestSize(const QSize& screen) {
 
 void frmMain::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    GrowDiagrams(*this);
+    ShareRoom(*this, *this, *this, *this);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

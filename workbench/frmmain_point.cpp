@@ -39,8 +39,9 @@ bool frmMain::IsOnBarre(double x) const {
 
 void frmMain::picStrings_MouseDown(Qt::MouseButton button, QPointF place) {
     if (button == Qt::RightButton) {
+        const bool wipes = m_workbench.HasFingers();
         DoQuietly([&] { m_workbench.ClearFretboard(); });
-        return;
+        return PointAt({.wiped = wipes});
     }
     if (IsOnBarre(place.x())) {
         BarreDragging = true;

@@ -46,6 +46,7 @@ void frmMain::ShowState() {
     lblChord->setText(m_workbench.ChordName());
     lblChord->setToolTip(m_workbench.ChordHint());
     lblKeys->setText(m_workbench.MarkedNames());
+    ShowTuning(m_state);
     ShowMissing(m_workbench.Missing(), m_state.InterfaceTongue());
     Q_EMIT StateShown();
 }

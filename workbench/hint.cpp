@@ -19,6 +19,9 @@ QString FocusedPart(const TwipPicture& picture) {
     return part.left(1).toUpper() + part.mid(1);
 }
 
+const Phrase wipedNews{QStringLiteral("Гриф пуст. Ctrl+Z вернёт всё, как было."),
+                       QStringLiteral("The neck is empty. Ctrl+Z brings everything back.")};
+
 } // namespace
 
 void ShowPointed(FretboardView& board, const Pointed& pointed, const Workbench& workbench) {
@@ -39,6 +42,8 @@ QString HintAt(const Pointed& pointed, const SeeGroup& see, const Workbench& wor
     if (pointed.chord && see.lblChord->IsCut())
         return see.lblChord->text();
     const Tongue tongue = state.InterfaceTongue();
+    if (pointed.wiped && !workbench.HasFingers())
+        return wipedNews.In(tongue);
     const auto marked = workbench.Keys().Marked();
     if (pointed.place) {
         const auto note = workbench.NoteAt(pointed.place->row, pointed.place->fret);

@@ -10,6 +10,7 @@ struct Pointed {
     std::optional<int> key = std::nullopt;          // ...or on the piano.
     const TwipPicture* restsOn = nullptr; // The picture on which the pointer has come to rest.
     bool chord = false;                   // On the chord's name.
+    bool wiped = false;                   // Where a press has just taken everything off the neck.
 
     bool operator==(const Pointed&) const = default;
 };

@@ -12,8 +12,9 @@ constexpr std::array texts{
     Ours(u"frmMain", Caption, u"Тонвик", u"Tonvik"),
 
     OfFile(u"Frame1", Caption, 1, u"Аккорд/лад:"),
-    Ours(u"lstBase", Hint, u"Основной тон", u"Root note"),
-    Ours(u"lstType", Hint, u"Тип аккорда", u"Chord type"),
+    Ours(u"lstBase", Hint, u"Основной тон (Ctrl+вверх, Ctrl+вниз)",
+         u"Root note (Ctrl+Up, Ctrl+Down)"),
+    Ours(u"lstType", Hint, u"Тип аккорда (Alt+вверх, Alt+вниз)", u"Chord type (Alt+Up, Alt+Down)"),
     OfFile(u"Label5", Caption, 4, u"Лад:"),
     Ours(u"lstLad", Hint, u"Лад (гамма)", u"Scale"),
     Ours(u"txtFind", Hint, u"Аккорд или тип, который нужно найти (Ctrl+F)",
@@ -50,8 +51,8 @@ constexpr std::array texts{
     OfFile(u"Label7", Caption, 23, u"Недостающие звуки:"),
 
     OfFile(u"Frame2", Caption, 2, u"Подбор комбинации:"),
-    Ours(u"txtStr", Hint, u"Номер ряда, снизу вверх: от 1 до 6",
-         u"Row number, counted from the bottom: 1 to 6"),
+    Ours(u"txtStr", Hint, u"Номер ряда, снизу вверх: от 1 до 6 (Shift+вверх, Shift+вниз)",
+         u"Row number, counted from the bottom: 1 to 6 (Shift+Up, Shift+Down)"),
     Ours(u"VScroll3", Hint, u"Выбор струны", u"Choose the string"),
     OfFile(u"cmdFindNew", Caption, 5, u"Изменить"),
     Ours(u"cmdFindNew", Hint, u"Следующий лад с нотой аккорда на этой струне (F4)",

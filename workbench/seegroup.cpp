@@ -4,12 +4,14 @@
 #include "controls/labellook.h"
 #include "controls/newcontrols.h"
 #include "controls/papercard.h"
+#include "controls/picturelabel.h"
+#include "core/tuningwords.h"
 
 #include <QGridLayout>
 
 SeeGroup::SeeGroup(QWidget* window)
     : seeColumn(Spaced(new QVBoxLayout, 0)),
-      Label1(new QLabel(window)),
+      Label1(new PictureLabel(QStringLiteral("Label1"), Icon::PlayStrings, window)),
       lblChord(NewLabel(u"lblChord", window)),
       cmdFindChord(NewPictureButton(u"cmdFindChord", Icon::NameChord, window)),
       lblSounds(new ChoiceLabel(QStringLiteral("lblSounds"), window)),
@@ -23,24 +25,15 @@ SeeGroup::SeeGroup(QWidget* window)
       lblKeys(NewLabel(u"lblKeys", window)),
       Label7(NewLabel(u"Label7", window)),
       lblNoS(NewLabel(u"lblNoS", window)) {
-    seeColumn->addLayout(ChordLine(window));
+    seeColumn->addLayout(ChordLine());
     seeColumn->addWidget(lblSounds);
     seeColumn->addWidget(panel, 1);
     seeColumn->addLayout(VoicingLine());
     seeColumn->addWidget(NoteLines(window));
+    FitToLetters(1);
 }
 
-QLayout* SeeGroup::ChordLine(const QWidget* window) {
-    const int side = lblChord->fontMetrics().height() * 2;
-    Label1->setObjectName(QStringLiteral("Label1"));
-    Label1->setMouseTracking(true);
-    Label1->setPixmap(
-        MakeIcon(Icon::PlayStrings).pixmap(QSize(side, side), window->devicePixelRatio()));
-    QFont large = lblChord->font();
-    large.setPointSizeF(large.pointSizeF() * 1.9);
-    large.setBold(true);
-    lblChord->setFont(large);
-    lblChord->setMinimumSize(1, lblChord->fontMetrics().height()); // No name widens the window.
+QLayout* SeeGroup::ChordLine() {
     auto* line = Spaced(new QHBoxLayout, 0);
     line->addWidget(Label1);
     line->addWidget(lblChord, 1);
@@ -51,6 +44,17 @@ QLayout* SeeGroup::ChordLine(const QWidget* window) {
     bold.setBold(true);
     lblSounds->setFont(bold);
     return line;
+}
+
+void SeeGroup::FitToLetters(double name) const {
+    constexpr double larger = 1.9; // Than the other letters.
+    QFont large = lblVoicings->font();
+    const int side = lblVoicings->fontMetrics().height() * 2;
+    large.setPointSizeF(large.pointSizeF() * larger * name);
+    large.setBold(true);
+    lblChord->setFont(large);
+    lblChord->setMinimumSize(1, lblChord->fontMetrics().height()); // No name widens the window.
+    Label1->setFixedSize(side, side);
 }
 
 QLayout* SeeGroup::VoicingLine() {
@@ -84,6 +88,18 @@ QWidget* SeeGroup::NoteLines(QWidget* window) {
         label->setFont(bold);
     }
     return card;
+}
+
+// It stands behind what the label does there. A catalogue may have a million tunings to look
+// through: that is done for other strings alone.
+void SeeGroup::ShowTuning(const AppState& state) {
+    const bool said = panel->Label6.front()->toolTip().contains(u'\n');
+    if (const QString notes = TuningNotes(state); notes != m_tuning || !said) {
+        m_tuning = notes;
+        const QString tuning = TuningInWords(state);
+        for (HotLabel* handle : panel->Label6)
+            handle->setToolTip(handle->toolTip().section(u'\n', 0, 0) + u'\n' + tuning);
+    }
 }
 
 void SeeGroup::ShowMissing(const MissingNotes& missing, Tongue tongue) const {

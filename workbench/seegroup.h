@@ -31,11 +31,20 @@ struct SeeGroup {
     TextLabel* Label7;
     TextLabel* lblNoS;
 
+    // Measures the chord's name and its picture anew by the letters of the window; the name is
+    // so many times larger than in the smallest.
+    void FitToLetters(double name) const;
+
+    // Says in the tool tips of the string handles how the guitar is tuned.
+    void ShowTuning(const AppState& state);
+
     // The chord's notes that no string sounds, and a warning where the root is one of them.
     void ShowMissing(const MissingNotes& missing, Tongue tongue) const;
 
 private:
-    QLayout* ChordLine(const QWidget* window);
+    QString m_tuning; // That the tool tips name.
+
+    QLayout* ChordLine();
     QLayout* VoicingLine();
     QWidget* NoteLines(QWidget* window);
 };

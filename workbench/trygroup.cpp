@@ -17,9 +17,7 @@ TryGroup::TryGroup(QWidget* window)
       cmdMakeBarre(NewCaptionButton(u"cmdMakeBarre", Frame3)),
       lstBarre(new DropDown(QStringLiteral("lstBarre"), Frame3)),
       lstLadBarre(new DropDown(QStringLiteral("lstLadBarre"), Frame3)) {
-    txtStr->setMaximumWidth(window->fontMetrics().horizontalAdvance(u'0') * 5);
     txtStr->setAlignment(Qt::AlignHCenter);
-    VScroll3->setFixedHeight(std::max(txtStr->sizeHint().height(), 34));
     auto* search = Spaced(new QGridLayout(Frame2), layoutGap);
     search->addWidget(txtStr, 0, 0);
     search->addWidget(VScroll3, 0, 1);
@@ -34,6 +32,12 @@ TryGroup::TryGroup(QWidget* window)
     barre->addWidget(cmdMakeBarre, 0, 0, 1, 2);
     barre->addWidget(lstBarre, 1, 0);
     barre->addWidget(lstLadBarre, 1, 1);
+    FitToLetters();
+}
+
+void TryGroup::FitToLetters() const {
+    txtStr->setMaximumWidth(Frame2->fontMetrics().horizontalAdvance(u'0') * 5);
+    VScroll3->setFixedHeight(std::max(txtStr->sizeHint().height(), 34));
 }
 
 void TryGroup::ShowRows(const Workbench& workbench) const {

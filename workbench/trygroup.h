@@ -24,6 +24,9 @@ struct TryGroup {
     DropDown* lstBarre;
     DropDown* lstLadBarre;
 
+    // Measures the row's number and its bar anew by the letters of the frame.
+    void FitToLetters() const;
+
     // The rows that are chosen.
     void ShowRows(const Workbench& workbench) const;
 };

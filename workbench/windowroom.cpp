@@ -2,9 +2,12 @@
 
 #include "controls/newcontrols.h"
 
+#include <QApplication>
 #include <QLayout>
+#include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 
 QSize BestSize(const QWidget& window, const SeeGroup& see, const QSize& screen) {
     constexpr double share = 0.8; // Of the screen.
@@ -38,14 +41,54 @@ void GiveStripItsRoom(const QWidget& window, const SeeGroup& see, const QSize& s
     show(window.layout()->totalMinimumSize().height() <= screen.height());
 }
 
-void GrowDiagrams(const SeeGroup& see) {
+namespace {
+
+// How large the letters are in a window of that size, so many times the desktop's: with half of
+// what it has more than it needs, as the pictures grow first.
+double LettersIn(const QSize& window) {
+    constexpr QSizeF smallest(1280, 720);
+    constexpr double largest = 1.25;
+    constexpr double step = 0.125; // Each step lays out the window anew.
+    const double room =
+        std::min(window.width() / smallest.width(), window.height() / smallest.height());
+    const double letters = 1 + (room - 1) / 2;
+    return std::clamp(std::floor(letters / step) * step, 1.0, largest);
+}
+
+void GrowLetters(QWidget& window, const ChooseGroup& choose, const SeeGroup& see,
+                 const TryGroup& tried) {
+    const double letters = LettersIn(window.size());
+    QFont font = QApplication::font();
+    if (font.pointSizeF() <= 0)
+        return;
+    font.setPointSizeF(font.pointSizeF() * letters);
+    if (font == window.font())
+        return;
+    window.setFont(font);
+    choose.FitToLetters();
+    see.FitToLetters(1 + 2 * (letters - 1));
+    tried.FitToLetters();
+    window.layout()->activate();
+}
+
+} // namespace
+
+void ShareRoom(QWidget& window, const ChooseGroup& choose, const SeeGroup& see,
+               const TryGroup& tried) {
     constexpr double largest = 1.5;
     constexpr int besideEachOther = 8;
+    constexpr int mostRows = 4;
+    GrowLetters(window, choose, see, tried);
     const VoicingList& strip = *see.lstVoicings;
     const QSizeF cell = VoicingList::smallestCell;
     const QSizeF pictures = InstrumentPanel::SizeAt(1);
-    const double room = see.panel->height() + strip.height() - 2 * strip.frameWidth() -
+    const int frame = 2 * strip.frameWidth();
+    const double room = see.panel->height() + strip.height() - frame -
                         pictures.height() * see.panel->width() / pictures.width();
-    const double width = strip.viewport()->width() / (besideEachOther * cell.width());
-    see.lstVoicings->SetScale(std::clamp(std::min(room / cell.height(), width), 1.0, largest));
+    const double width = (strip.width() - frame - strip.verticalScrollBar()->sizeHint().width()) /
+                         (besideEachOther * cell.width());
+    const double scale = std::clamp(std::min(room / cell.height(), width), 1.0, largest);
+    see.lstVoicings->SetScale(scale);
+    see.lstVoicings->SetStripRows(
+        std::clamp(static_cast<int>(room / (cell.height() * scale)), 1, mostRows));
 }

@@ -2,7 +2,9 @@
 // stands beside them.
 #pragma once
 
+#include "workbench/choosegroup.h"
 #include "workbench/seegroup.h"
+#include "workbench/trygroup.h"
 
 // screen: the room that it has for windows, in pixels.
 
@@ -13,6 +15,8 @@ QSize BestSize(const QWidget& window, const SeeGroup& see, const QSize& screen);
 // On a screen too small for it the strip goes, before the neck has to shrink.
 void GiveStripItsRoom(const QWidget& window, const SeeGroup& see, const QSize& screen);
 
-// The diagrams grow into the room that the pictures leave, half as much again at most, while
-// eight stand beside each other.
-void GrowDiagrams(const SeeGroup& see);
+// What the pictures leave of the window goes to the rows of the strip, half as large again at
+// most, while eight diagrams stand beside each other; in a large window all letters grow, too,
+// the chord's name among the first.
+void ShareRoom(QWidget& window, const ChooseGroup& choose, const SeeGroup& see,
+               const TryGroup& tried);

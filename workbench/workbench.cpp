@@ -3,6 +3,8 @@
 #include "core/numbers.h"
 #include "core/runtimeerror.h"
 
+#include <algorithm>
+
 namespace {
 
 void CheckRow(int row) {
@@ -222,6 +224,11 @@ Shape Workbench::NeckShape() const {
 const StringRow& Workbench::Row(int row) const {
     CheckRow(row);
     return m_rows[static_cast<std::size_t>(row)];
+}
+
+bool Workbench::HasFingers() const {
+    return m_barre || std::any_of(m_rows.begin(), m_rows.end(),
+                                  [](const StringRow& row) { return row.mark.has_value(); });
 }
 
 QString Workbench::RowText(int row) const {

@@ -129,6 +129,7 @@ public:
     int BarreFretRow() const { return m_barreFretRow; }
     const PianoKeys& Keys() const { return m_keys; }
     const StringRow& Row(int row) const;
+    bool HasFingers() const;        // A mark or the barre stands.
     QString RowText(int row) const; // The note that the row sounds, as its label shows it.
     std::optional<Barre> ShownBarre() const { return m_barre; }
     const QString& ChordName() const { return m_chordName; }

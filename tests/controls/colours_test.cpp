@@ -111,6 +111,7 @@ void ColoursTest::Contrasts_data() {
         {"links", In(focus), In(window), ofText},
         {"notes and fret numbers", In(normalText), In(plate), ofText},
         {"under the pointer", In(highlight), In(plate), ofText},
+        {"a button under the pointer", In(highlight), In(pointedFace), ofText},
         {"muted strings", In(mutedOnPlate), In(plate), ofText},
         {"missing notes", In(normalText), In(paper), ofText},
         {"the missing root", In(mark), In(paper), ofPureRed},

@@ -101,15 +101,15 @@ void GoldButtonPaintingTest::EdgeFlags_data() {
                           << Colours::buttonFace.Now();
     QTest::newRow("raised outer") << 1 << Colours::window.Now() << Colours::buttonDark.Now()
                                   << Colours::buttonFace.Now();
-    QTest::newRow("sunken outer") << 2 << Colours::buttonShadow.Now() << Colours::buttonLight.Now()
+    QTest::newRow("sunken outer") << 2 << Colours::edge.Now() << Colours::edge.Now()
                                   << Colours::buttonFace.Now();
-    QTest::newRow("raised inner alone") << 4 << Colours::buttonLight.Now()
-                                        << Colours::buttonShadow.Now() << Colours::buttonFace.Now();
+    QTest::newRow("raised inner alone")
+        << 4 << Colours::edge.Now() << Colours::edge.Now() << Colours::buttonFace.Now();
     QTest::newRow("sunken inner alone")
         << 8 << Colours::buttonDark.Now() << Colours::window.Now() << Colours::buttonFace.Now();
     QTest::newRow("raised") << 5 << Colours::window.Now() << Colours::buttonDark.Now()
-                            << Colours::buttonLight.Now();
-    QTest::newRow("sunken") << 10 << Colours::buttonShadow.Now() << Colours::buttonLight.Now()
+                            << Colours::edge.Now();
+    QTest::newRow("sunken") << 10 << Colours::edge.Now() << Colours::edge.Now()
                             << Colours::buttonDark.Now();
 }
 

@@ -81,6 +81,10 @@ void StartUpTest::NoFilesAtAll() {
     Start();
     frmMain& window = m_start->Window();
     QVERIFY(window.isVisible());
+    QCOMPARE(Text(QStringLiteral("lblHint")),
+             QStringLiteral("Выберите аккорд слева; щёлкните по струне; сыграйте: F6."));
+    window.lstBase->SelectRow(0);
+    QCOMPARE(Text(QStringLiteral("lblHint")), QString());
     QCOMPARE(window.windowTitle(), QStringLiteral("Тонвик"));
     QCOMPARE(window.lstType->RowCount(), 50);
     QCOMPARE(window.lstBase->RowCount(), 12);

@@ -1,0 +1,11 @@
+// What all controls have in common to look at: one corner, one line around what can be operated.
+#pragma once
+
+#include <QPainter>
+
+// A filled face with a line around it, within the rectangle.
+void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QColor& line);
+
+// A face that is ticked, or a round one that is chosen, where it is on.
+void PaintCheck(QPainter& painter, const QRectF& rect, bool on, bool enabled);
+void PaintOption(QPainter& painter, const QRectF& rect, bool on, bool enabled);
