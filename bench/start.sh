@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# The program against a bare window, from the start to the first complete paint: the shortest
-# times of 40 starts of each, in turn, and the memory that both then hold. Then the program with
+# The program against a bare window and one with a line of text, from the start to the first
+# complete paint: the shortest times of 40 starts of each, in turn, and the memory that they then
+# hold. The kilobytes more with the window of voicings open. Then the program with
 # three data files of a million records each: time, and its further memory over the files' size.
 # Needs a display (or QT_QPA_PLATFORM=offscreen) and a release build.
 set -euo pipefail
@@ -21,10 +22,14 @@ ratio() { awk -v a="$1" -v b="$2" 'BEGIN {printf "%.2f\n", a / b}'; }
 for _ in {1..40}; do
     measure program ./start_program
     measure bare ./start_bare
+    measure line ./start_line
 done
+for _ in {1..10}; do measure voicings ./start_program . voicings; done
 echo "StartProgram $(shortest program)"
 echo "StartBare $(shortest bare)"
 echo "StartRatio $(ratio "$(shortest program)" "$(shortest bare)")"
+echo "StartLineRatio $(ratio "$(shortest program)" "$(shortest line)")"
+echo "VoicingsMemory $(($(memory voicings) - $(memory program)))"
 echo "MemoryRatio $(ratio "$(memory program)" "$(memory bare)")"
 
 awk -v folder="$folder" 'BEGIN {

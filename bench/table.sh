@@ -31,7 +31,7 @@ start_desktop
     "$bench/sound_notes" build/release/tonvik/ |
         awk '{print $1, /^FirstNote|Call/ ? $2 * 1000 : $2}'
     run 1 workbench_bench
-    run 2 workbench_bench Paint
+    run 2 workbench_bench 'Paint|ResizeStep'
     run 4 workbench_bench Paint
     run 1 windows_bench
     run 1 lists_bench
@@ -63,11 +63,13 @@ awk -F'|' -v figures="$figures" '
         }
         printf "| %s | %s%s | %s |\n", $1, text, ($3 == "" ? "" : " " $3), $4
     }' <<'ROWS'
-start to the first complete paint, over a bare window (elapsed)|StartRatio||1.3, at most 2
-memory then, over a bare window|MemoryRatio||1.3, at most 1.6
+start to the first complete paint, over a bare window / one with a line of text (elapsed)|StartRatio StartLineRatio||1.3, at most 2 / 1.5
+memory then, over a bare window|MemoryRatio||1.25
+further memory with the window of voicings open (kB)|VoicingsMemory||8192
 chord spelled and fingered|1xSpellAndFinger|µs|2
-chord change to the end of the paint, screen scale 1 / 2 / 4|1xChordChangeToPaint 2xChordChangeToPaint 4xChordChangeToPaint|ms|1 at scale 1
+chord change to the end of the paint with its ways to play, screen scale 1 / 2 / 4|1xChordChangeToPaint 2xChordChangeToPaint 4xChordChangeToPaint|ms|2 at scale 1
 scale change to the end of the paint, screen scale 1 / 2 / 4|1xScaleChangeToPaint 2xScaleChangeToPaint 4xScaleChangeToPaint|ms|1 at scale 1
+step of a resize, layout and paint, screen scale 1 / 2|1xResizeStep 2xResizeStep|ms|16 at scale 2
 fretboard painted anew, screen scale 1 / 2 / 4|1xPaintFretboard 2xPaintFretboard 4xPaintFretboard|ms|
 keyboard painted anew, screen scale 1 / 2 / 4|1xPaintKeys 2xPaintKeys 4xPaintKeys|ms|
 `chords.dat` read, 50 / 10,000 / 1,000,000 records|1xReadCatalogue/chords/50 1xReadCatalogue/chords/10000 1xReadCatalogue/chords/1000000|ms|linear

@@ -57,6 +57,19 @@ void ClickToName(benchmark::State& state) {
 }
 BENCHMARK(ClickToName)->Unit(benchmark::kMicrosecond);
 
+// One step of a resize: layout and paint.
+void ResizeStep(benchmark::State& state) {
+    MainWindow main;
+    const QSize smallest = main.window.minimumSizeHint();
+    int step = 0;
+    for (auto _ : state) {
+        step = (step + 7) % 300;
+        main.window.resize(smallest + QSize(step, step / 2));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(ResizeStep)->Unit(benchmark::kMicrosecond);
+
 void UndoAndRedo(benchmark::State& state) {
     MainWindow main;
     main.window.lstType->SelectRow(7);
