@@ -11,6 +11,8 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 frmVoicings::frmVoicings(const AppState& state)
     : FilterGroup(this),
       lblVoicings(NewLabel(u"lblVoicings", this)),
@@ -55,7 +57,7 @@ frmVoicings::frmVoicings(const AppState& state)
 void frmVoicings::ShowTexts(Tongue tongue) {
     std::array<int, 6> rows{};
     for (std::size_t i = 0; i < rows.size(); ++i)
-        rows[i] = Lists()[i]->currentIndex();
+        rows[i] = std::max(0, Lists()[i]->currentIndex());
     ApplyTexts(*this, VoicingsTexts(), {}, {tongue, std::nullopt});
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const QSignalBlocker silent(Lists()[i]);

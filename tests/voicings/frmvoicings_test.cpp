@@ -80,6 +80,8 @@ void FrmVoicingsTest::FiltersCombine() {
     QVERIFY(m_window->lblVoicings->text().contains(QString::number(Rows())));
     m_window->cmdAll->click();
     QCOMPARE(Rows(), 706);
+    for (const DropDown* list : m_window->findChildren<DropDown*>())
+        QVERIFY2(list->currentIndex() >= 0, qPrintable(list->objectName()));
 }
 
 void FrmVoicingsTest::FiltersStay() {
