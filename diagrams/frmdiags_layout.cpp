@@ -4,7 +4,7 @@
 #include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/twips.h"
-#include "diagrams/placing.h"
+#include "controls/placing.h"
 
 #include <QScreen>
 #include <QShortcut>

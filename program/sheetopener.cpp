@@ -1,5 +1,6 @@
 #include "program/sheetopener.h"
 
+#include "controls/placing.h"
 #include "core/statefolder.h"
 #include "diagrams/chordshapes.h"
 #include "diagrams/frmdiags.h"
@@ -28,10 +29,7 @@ frmDiags& SheetOpener::Sheet() {
 }
 
 void SheetOpener::Show() {
-    const auto onScreen = [](const QWidget* control) {
-        return QRect(control->mapToGlobal(QPoint()), control->size());
-    };
-    Sheet().OpenBeside(onScreen(m_window.Frame1) | onScreen(m_window.panel->picStrings));
+    Sheet().OpenBeside(OnScreen(*m_window.Frame1) | OnScreen(*m_window.panel->picStrings));
     if (!m_offered) {
         m_offered = true;
         m_sheet->OfferLeft();

@@ -3,6 +3,7 @@
 #include "controls/application.h"
 #include "controls/handle.h"
 #include "controls/messagebox.h"
+#include "controls/placing.h"
 #include "controls/theme.h"
 #include "controls/windowtexts.h"
 #include "core/datafile.h"
@@ -177,6 +178,9 @@ void StartUp::ConnectSheet() {
 void StartUp::OpenVoicings() {
     if (!m_voicings) {
         m_voicings = std::make_unique<frmVoicings>(m_state);
+        OpenBeside(*m_voicings, {m_window->frameGeometry(),
+                                 OnScreen(*m_window->Frame1) | OnScreen(*m_window->panel),
+                                 OnScreen(*m_window->panel)});
         m_window->TakeKeysOf(m_voicings.get());
         Handle(m_voicings.get(), &frmVoicings::LayAsked, m_window.get(), &frmMain::LayShape);
         Handle(m_voicings.get(), &frmVoicings::StrumAsked, m_window.get(), &frmMain::LayAndStrum);

@@ -3,6 +3,7 @@
 
 #include "core/codepage.h"
 #include "core/runtimeerror.h"
+#include "diagrams/sheetpages.h"
 #include "support/testfolder.h"
 
 #include <QProcess>
@@ -50,7 +51,11 @@ void ChordProFileTest::Songs() {
     QFETCH(const QString, path);
     const QString song = ReadChordProFile(path);
     QVERIFY(!song.contains(QChar::ReplacementCharacter));
-    QVERIFY(!ReadSheetText(song, {}).empty());
+    const PageLook look{{11900, 16840}, false, [](TextStyle style, const QString& text) {
+                            return LetterSize(style) * static_cast<double>(text.size()) / 2;
+                        }};
+    const auto pages = LayOutSheet(ReadSheetText(song, {}), look);
+    QVERIFY(pages.front().texts.size() > 1); // More than the page's number.
     const QString written = m_folder.Path(QStringLiteral("out.cho"));
     WriteChordProFile(written, ChordProText(song, {}));
     QCOMPARE(ReadChordProFile(written), song);

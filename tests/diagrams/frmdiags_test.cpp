@@ -1,7 +1,6 @@
 // The diagram sheet through its real window: the list of fingerings, and the window itself.
 #include "sheet.h"
 
-#include "diagrams/placing.h"
 
 class FrmDiagsTest : public QObject, private Sheet {
     Q_OBJECT
@@ -237,28 +236,6 @@ private Q_SLOTS:
         const QRect seen(screen.topLeft(), QSize(screen.width(), 40));
         m_sheet->OpenBeside(seen);
         QVERIFY(!m_sheet->frameGeometry().intersects(seen));
-    }
-
-    void PlacesBeside_data() {
-        QTest::addColumn<QRect>("seen");
-        QTest::addColumn<QRect>("place");
-        // The screen is 1000 x 600, the window 400 x 300, 300 x 200 at least.
-        QTest::newRow("right of it") << QRect(0, 50, 600, 500) << QRect(600, 50, 400, 300);
-        QTest::newRow("narrower where it must be")
-            << QRect(0, 0, 650, 600) << QRect(650, 0, 350, 300);
-        QTest::newRow("left of it") << QRect(500, 0, 500, 600) << QRect(100, 0, 400, 300);
-        QTest::newRow("below it, no lower than the screen")
-            << QRect(0, 0, 1000, 350) << QRect(0, 350, 400, 250);
-        QTest::newRow("above it") << QRect(0, 300, 1000, 300) << QRect(0, 0, 400, 300);
-        QTest::newRow("no room anywhere") << QRect(200, 150, 600, 300) << QRect();
-        QTest::newRow("what is seen reaches out of the screen")
-            << QRect(-50, 400, 500, 500) << QRect(450, 300, 400, 300);
-    }
-    void PlacesBeside() {
-        QFETCH(const QRect, seen);
-        QFETCH(const QRect, place);
-        const auto found = PlaceBeside(seen, {400, 300}, {300, 200}, {0, 0, 1000, 600});
-        QCOMPARE(found.value_or(QRect()), place);
     }
 };
 

@@ -1,4 +1,8 @@
-#include "diagrams/placing.h"
+#include "controls/placing.h"
+
+#include <QScreen>
+#include <QStyle>
+#include <QWidget>
 
 #include <algorithm>
 #include <array>
@@ -21,4 +25,24 @@ std::optional<QRect> PlaceBeside(const QRect& seen, const QSize& size, const QSi
         return place;
     }
     return std::nullopt;
+}
+
+QRect OnScreen(const QWidget& control) {
+    return {control.mapToGlobal(QPoint()), control.size()};
+}
+
+void OpenBeside(QWidget& window, std::initializer_list<QRect> seen) {
+    // What the window manager will put above it, as far as it is known yet.
+    const QSize title(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QSize smallest = window.minimumSizeHint().expandedTo(window.minimumSize());
+    const QSize size = window.sizeHint().expandedTo(smallest);
+    for (const QRect& part : seen) {
+        const auto beside =
+            PlaceBeside(part, size + title, smallest + title, window.screen()->availableGeometry());
+        if (!beside)
+            continue;
+        window.resize(beside->size() - title);
+        window.move(beside->topLeft());
+        return;
+    }
 }
