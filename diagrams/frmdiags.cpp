@@ -13,6 +13,18 @@
 
 #include <cmath>
 
+namespace {
+
+const Phrase emptySheet{
+    QStringLiteral("Здесь пишут текст песни. Первая кнопка слева берёт аппликатуру с грифа в "
+                   "список, щелчок по строке списка вписывает её сюда; страницы показывают, что "
+                   "получится."),
+    QStringLiteral("Write the song here. The first button on the left takes the fingering on the "
+                   "neck into the list, a click on a row of the list writes it here; the pages "
+                   "show what comes of it.")};
+
+} // namespace
+
 frmDiags::frmDiags(AppState& state, std::function<BoardFingering()> board)
     : m_state(state), m_board(std::move(board)) {
     InstallAccessiblePages();
@@ -20,6 +32,7 @@ frmDiags::frmDiags(AppState& state, std::function<BoardFingering()> board)
     CreateControls();
     LayOut();
     ApplyTexts(*this, SheetTexts(), {}, {m_state.InterfaceTongue(), std::nullopt});
+    txtMain->setPlaceholderText(emptySheet.In(m_state.InterfaceTongue()));
     picPage->SetTongue(m_state.InterfaceTongue());
     Connect();
     ShowPages();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/goldbutton.h"
+#include "controls/textlabel.h"
 #include "core/mdlmain.h"
 #include "diagrams/clicklist.h"
 #include "diagrams/exportdialog.h"
@@ -85,7 +86,11 @@ public:
     GoldButton* cmdExport;
     GoldButton* cmdImport;
     GoldButton* cmdPrint;
-    QLabel* lblSaved; // Says that a file was saved or exported, until the text changes.
+    TextLabel* lblRows;   // Headings: over the list...
+    TextLabel* lblPages;  // ...the pages...
+    TextLabel* lblText;   // ...and the text.
+    TextLabel* lblLength; // What the number beside it is.
+    QLabel* lblSaved;     // Says that a file was saved or exported, until the text changes.
 
 protected:
     void closeEvent(QCloseEvent* event) override;

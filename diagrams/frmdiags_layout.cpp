@@ -3,6 +3,7 @@
 
 #include "controls/handle.h"
 #include "controls/icons.h"
+#include "controls/newcontrols.h"
 #include "controls/twips.h"
 #include "controls/placing.h"
 
@@ -43,6 +44,10 @@ void frmDiags::CreateControls() {
     cmdPrint = Button(QStringLiteral("cmdPrint"), Icon::Print, this);
     picPage = new PicPage(QStringLiteral("picPage"), this);
     txtMain = new SheetText(this);
+    lblRows = NewLabel(u"lblRows", this);
+    lblPages = NewLabel(u"lblPages", this);
+    lblText = NewLabel(u"lblText", this);
+    lblLength = NewLabel(u"lblLength", this);
     lblSaved = new QLabel(this);
     lblSaved->setObjectName(QStringLiteral("lblSaved"));
     lblSaved->setTextFormat(Qt::PlainText);
@@ -51,6 +56,8 @@ void frmDiags::CreateControls() {
 // The list with its buttons on the left, the text with its own on the right.
 void frmDiags::LayOut() {
     const QSize button = cmdAdd->sizeHint();
+    constexpr int lengthLetters = 16; // In any of the languages.
+    const int lengthWidth = fontMetrics().averageCharWidth() * lengthLetters;
     int x = gap;
     const auto place = [&](QWidget* control, int width) {
         control->setGeometry(x, gap, width, button.height());
@@ -58,8 +65,11 @@ void frmDiags::LayOut() {
     };
     for (GoldButton* control : {cmdAdd, cmdDel, cmdClear, cmdMake})
         place(control, button.width());
-    const int top = gap + button.height() + gap;
+    const int headings = gap + button.height() + gap;
+    const int heading = fontMetrics().height();
+    const int top = headings + heading + Lengths::tight;
     const int listWidth = x - gap - gap / 2;
+    lblRows->setGeometry(gap, headings, listWidth, heading);
     lstMain->setGeometry(gap, top, listWidth, 100);
     x += gap;
     picPage->move(x, top);
@@ -68,6 +78,8 @@ void frmDiags::LayOut() {
     x += gap;
     for (GoldButton* control : {cmdCut, cmdCopy, cmdPast, GoldButton2})
         place(control, button.width());
+    x += gap;
+    place(lblLength, lengthWidth);
     place(Text1, fontMetrics().averageCharWidth() * 12);
     txtMain->move(picPage->x() + 100, top);
     setMinimumSize(x + gap, top + 200);
@@ -84,6 +96,11 @@ void frmDiags::Form_Resize() {
     txtMain->move(picPage->x() + picPage->width() + gap, txtMain->y());
     txtMain->resize(width() - txtMain->x() - pixels(200), height() - txtMain->y() - pixels(500));
     lstMain->resize(lstMain->width(), height() - lstMain->y() - pixels(400));
+    const auto over = [this](QWidget* heading, const QWidget* column) {
+        heading->setGeometry(column->x(), lblRows->y(), column->width(), lblRows->height());
+    };
+    over(lblPages, picPage);
+    over(lblText, txtMain);
     const int below = txtMain->y() + txtMain->height();
     lblSaved->setGeometry(txtMain->x(), below, txtMain->width(), height() - below);
 }

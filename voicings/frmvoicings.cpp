@@ -61,7 +61,7 @@ void frmVoicings::ShowTexts(Tongue tongue) {
     ApplyTexts(*this, VoicingsTexts(), {}, {tongue, std::nullopt});
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const QSignalBlocker silent(Lists()[i]);
-        Lists()[i]->setCurrentIndex(rows[i]);
+        Lists()[i]->setCurrentIndex(std::max(rows[i], 0)); // The first until something is chosen.
     }
     lstVoicings->SetTongue(tongue);
     m_tongue = tongue;

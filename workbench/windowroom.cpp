@@ -76,7 +76,7 @@ void GrowLetters(QWidget& window, const ChooseGroup& choose, const SeeGroup& see
 void ShareRoom(QWidget& window, const ChooseGroup& choose, const SeeGroup& see,
                const TryGroup& tried) {
     constexpr double largest = 1.5;
-    constexpr int besideEachOther = 8;
+    constexpr double besideEachOther = 8;
     constexpr int mostRows = 4;
     GrowLetters(window, choose, see, tried);
     const VoicingList& strip = *see.lstVoicings;
@@ -85,8 +85,10 @@ void ShareRoom(QWidget& window, const ChooseGroup& choose, const SeeGroup& see,
     const int frame = 2 * strip.frameWidth();
     const double room = see.panel->height() + strip.height() - frame -
                         pictures.height() * see.panel->width() / pictures.width();
-    const double width = (strip.width() - frame - strip.verticalScrollBar()->sizeHint().width()) /
-                         (besideEachOther * cell.width());
+    const int bar = strip.verticalScrollBar()->sizeHint().width();
+    constexpr int spare = 4; // A last column that fills the room to its end goes to the next row.
+    const double width =
+        std::floor((strip.width() - frame - bar - spare) / besideEachOther) / cell.width();
     const double scale = std::clamp(std::min(room / cell.height(), width), 1.0, largest);
     see.lstVoicings->SetScale(scale);
     see.lstVoicings->SetStripRows(

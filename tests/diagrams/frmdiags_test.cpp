@@ -47,6 +47,21 @@ private Q_SLOTS:
                  QStringLiteral("Tonvik Diags"));
     }
 
+    void EveryColumnHasAHeadingOverIt() {
+        const auto over = [](const QWidget* heading, const QWidget* column) {
+            return heading->x() == column->x() &&
+                   heading->geometry().bottom() < column->geometry().top();
+        };
+        QVERIFY(over(m_sheet->lblRows, m_sheet->lstMain));
+        m_sheet->resize(m_sheet->size() + QSize(200, 50));
+        QVERIFY(over(m_sheet->lblPages, m_sheet->picPage));
+        QVERIFY(over(m_sheet->lblText, m_sheet->txtMain));
+        QCOMPARE(m_sheet->lblLength->text(), QStringLiteral("Длина линий:"));
+        QVERIFY(m_sheet->lblLength->geometry().right() < m_sheet->Text1->geometry().left());
+        QVERIFY(!m_sheet->lblLength->IsCut());
+        QVERIFY(m_sheet->txtMain->placeholderText().contains(QStringLiteral("текст песни")));
+    }
+
     void Adding() {
         Click(m_sheet->cmdAdd);
         m_board.chordName = QStringLiteral("---");

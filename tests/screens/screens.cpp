@@ -76,6 +76,17 @@ void TakeMainWindow(frmMain& window) {
     window.lstLadBarre->showPopup();
     Take(window.lstLadBarre->view()->window(), QStringLiteral("main-drop-down"));
     window.lstLadBarre->hidePopup();
+    window.lstType->SelectRow(0);
+    const QSize opened = window.size();
+    window.resize(window.screen()->availableSize()); // As maximised.
+    Take(&window, QStringLiteral("main-maximised"));
+    window.resize(opened);
+}
+
+void TakeVoicings(frmMain& window) {
+    window.cmdVoicings->click();
+    Take(TopLevel(QStringLiteral("frmVoicings")), QStringLiteral("voicings"));
+    TopLevel(QStringLiteral("frmVoicings"))->close();
 }
 
 void TakeOtherWindows(frmMain& window, const AppState& state) {
@@ -130,6 +141,7 @@ int main(int argc, char** argv) {
     StartUp start(application, arguments[1]);
     start.Main();
     TakeMainWindow(start.Window());
+    TakeVoicings(start.Window());
     TakeOtherWindows(start.Window(), start.State());
     return everyWindowFits ? EXIT_SUCCESS : EXIT_FAILURE;
 }

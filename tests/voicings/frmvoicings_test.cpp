@@ -17,6 +17,7 @@ private Q_SLOTS:
     void FiltersCombine();
     void FiltersStay();
     void StringsThatSound();
+    void EveryListSaysWhatIsChosen();
     void NothingPasses();
     void NearTheHand();
     void NearTheHandNotTheNeck();
@@ -107,6 +108,12 @@ void FrmVoicingsTest::StringsThatSound() {
     thick->setCheckState(Qt::Checked);
     for (int row = 0; row < Rows(); ++row)
         QVERIFY(!Text(row).startsWith(u'x'));
+}
+
+void FrmVoicingsTest::EveryListSaysWhatIsChosen() {
+    for (const DropDown* list : m_window->Lists())
+        QVERIFY2(!list->currentText().isEmpty(), qPrintable(list->objectName()));
+    QCOMPARE(m_window->lstOrder->currentText(), QStringLiteral("сначала обычные"));
 }
 
 void FrmVoicingsTest::NothingPasses() {

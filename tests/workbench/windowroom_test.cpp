@@ -49,6 +49,12 @@ void WindowRoomTest::ATallWindowHasMoreRowsOfDiagrams() {
     Resize(1024, 740);
     QVERIFY(StripRows() >= 2);
     QVERIFY(m_main->board->width() >= neck); // The pictures grow first.
+    const VoicingList* strip = m_main->window.lstVoicings;
+    const auto place = [strip](int row) {
+        return strip->visualRect(strip->model()->index(row, 0));
+    };
+    QCOMPARE(place(7).top(), place(0).top()); // Eight beside each other...
+    QVERIFY(place(8).top() > place(0).top()); // ...and the next below.
 }
 
 void WindowRoomTest::TheNextRowIsReachedByTheWheel() {
