@@ -34,10 +34,10 @@ void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const 
     painter.restore();
 }
 
-void PaintCheck(QPainter& painter, const QRectF& rect, bool on, bool enabled) {
+void PaintCheck(QPainter& painter, const QRectF& rect, Qt::CheckState state, bool enabled) {
     const QRectF box = Square(rect);
     PaintFace(painter, box, Colours::field, LineOf(enabled));
-    if (!on)
+    if (state == Qt::Unchecked)
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -46,7 +46,9 @@ void PaintCheck(QPainter& painter, const QRectF& rect, bool on, bool enabled) {
     const auto at = [&box](double x, double y) {
         return box.topLeft() + QPointF(x, y) * box.width();
     };
-    painter.drawPolyline(QPolygonF({at(0.25, 0.52), at(0.43, 0.7), at(0.76, 0.3)}));
+    painter.drawPolyline(state == Qt::Checked
+                             ? QPolygonF({at(0.25, 0.52), at(0.43, 0.7), at(0.76, 0.3)})
+                             : QPolygonF({at(0.28, 0.5), at(0.72, 0.5)}));
     painter.restore();
 }
 

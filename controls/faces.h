@@ -6,6 +6,7 @@
 // A filled face with a line around it, within the rectangle.
 void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QColor& line);
 
-// A face that is ticked, or a round one that is chosen, where it is on.
-void PaintCheck(QPainter& painter, const QRectF& rect, bool on, bool enabled);
+// A face that is ticked, or struck through where it is checked half; a round one that is chosen
+// where it is on.
+void PaintCheck(QPainter& painter, const QRectF& rect, Qt::CheckState state, bool enabled);
 void PaintOption(QPainter& painter, const QRectF& rect, bool on, bool enabled);

@@ -87,7 +87,7 @@ public:
             PaintButtonFace(*option, *painter);
             break;
         case PE_IndicatorCheckBox:
-            PaintCheck(*painter, QRectF(option->rect), option->state.testFlag(State_On),
+            PaintCheck(*painter, QRectF(option->rect), CheckOf(option->state),
                        option->state.testFlag(State_Enabled));
             break;
         case PE_IndicatorRadioButton:
@@ -133,6 +133,12 @@ private:
     static bool IsStyledPanel(const QStyleOption& option) {
         const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
         return frame != nullptr && frame->frameShape == QFrame::StyledPanel;
+    }
+
+    static Qt::CheckState CheckOf(State state) {
+        if (state.testFlag(State_NoChange))
+            return Qt::PartiallyChecked;
+        return state.testFlag(State_On) ? Qt::Checked : Qt::Unchecked;
     }
 
     static void PaintButtonFace(const QStyleOption& option, QPainter& painter) {

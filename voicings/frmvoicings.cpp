@@ -57,7 +57,7 @@ frmVoicings::frmVoicings(const AppState& state)
 void frmVoicings::ShowTexts(Tongue tongue) {
     std::array<int, 6> rows{};
     for (std::size_t i = 0; i < rows.size(); ++i)
-        rows[i] = std::max(0, Lists()[i]->currentIndex());
+        rows[i] = Lists()[i]->currentIndex();
     ApplyTexts(*this, VoicingsTexts(), {}, {tongue, std::nullopt});
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const QSignalBlocker silent(Lists()[i]);
