@@ -86,6 +86,7 @@ frmSplash::frmSplash(const Author& author)
 
     QFont title(QStringLiteral("Arial"));
     title.setBold(true);
+    title.setPixelSize(Place(QRect(0, 0, 0, titleHeight)).height());
     AddText(QStringLiteral("Label1"), QStringLiteral("Tonvik 2.1"),
             QRect(360, 825, 4320, titleHeight), title);
     const auto place = [](int top) { return QRect(360, top, 6480, textHeight); };
@@ -125,9 +126,7 @@ void frmSplash::AddText(const QString& name, const QString& text, const QRect& t
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     const QRect place = Place(twips);
-    QFont fitting = font;
-    fitting.setPixelSize(place.height());
-    label->setFont(fitting);
+    label->setFont(font);
     // Room above and below for the letters that reach out of the font's size.
     label->setGeometry(place.adjusted(0, -place.height() / 4, 0, place.height() / 4));
 }
