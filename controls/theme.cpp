@@ -204,6 +204,10 @@ Scheme DesktopScheme() {
     return desktopScheme;
 }
 
+void SetDesktopScheme(Scheme scheme) {
+    desktopScheme = scheme;
+}
+
 Scheme SchemeOfWindows(const QPalette& palette) {
     constexpr int middle = 128;
     return palette.color(QPalette::Window).lightness() < middle ? Scheme::Dark : Scheme::Light;

@@ -8,8 +8,9 @@ class QPalette;
 // Gives the application its own style, and the scheme that goes with the desktop's windows.
 void ApplyTheme();
 
-// What the desktop's windows had when the theme was applied.
+// What the desktop's windows had when the theme was applied, or what the desktop has said since.
 Scheme DesktopScheme();
+void SetDesktopScheme(Scheme scheme);
 
 // The scheme that goes with a palette, by how light its windows are.
 Scheme SchemeOfWindows(const QPalette& palette);

@@ -13,12 +13,14 @@
 #include "core/statefolder.h"
 #include "info/frmsplash.h"
 #include "info/helpopener.h"
+#include "program/desktopscheme.h"
 #include "program/sheetopener.h"
 #include "program/stopkey.h"
 #include "settings/frmsettings.h"
 #include "sound/eventclock.h"
 #include "sound/midiapi.h"
 #include "voicings/frmvoicings.h"
+#include "workbench/windowroom.h"
 
 #include <QScreen>
 #include <QShortcut>
@@ -60,7 +62,7 @@ StartUp::~StartUp() = default;
 
 void StartUp::Main() {
     const Settings settings = ReadSettings(ProfileFile::Read(m_state.SettingsFile()));
-    ShowScheme(SchemeFor(settings.scheme));
+    UseScheme(settings.scheme);
     // A report of what comes before the language is loaded speaks it already.
     m_application.SetTongue(FindLanguage(m_state, settings.Language()) == LanguageChoice::File
                                 ? Tongue::English
@@ -91,8 +93,22 @@ void StartUp::Main() {
         m_window->ShowNotice(
             {QStringLiteral("Выберите аккорд слева; щёлкните по струне; сыграйте: F6."),
              QStringLiteral("Choose a chord on the left; click a string; play: F6.")});
-    m_window->OpenAtBestSize(m_window->screen()->availableGeometry().size());
+    m_window->OpenAtBestSize(RoomWithin(*m_window->screen()));
     m_window->show();
+    AskDesktop();
+}
+
+void StartUp::UseScheme(SchemeChoice scheme) {
+    m_scheme = scheme;
+    ShowScheme(SchemeFor(scheme));
+}
+
+// The windows do not wait for the answer.
+void StartUp::AskDesktop() {
+    AskDesktopScheme(m_window.get(), [this](Scheme scheme) {
+        SetDesktopScheme(scheme);
+        UseScheme(m_scheme);
+    });
 }
 
 void StartUp::LoadLanguage(const QString& name) {
@@ -147,7 +163,7 @@ void StartUp::ShowSettings() {
         m_state, *m_midi, *m_clock,
         [this](const Settings& settings) {
             UseSettings(m_state, settings);
-            ShowScheme(SchemeFor(settings.scheme));
+            UseScheme(settings.scheme);
             m_window->StringsChanged();
         },
         m_window.get());

@@ -3,6 +3,7 @@
 
 #include "controls/windowplaces.h"
 #include "core/mdlmain.h"
+#include "core/settings.h"
 #include "sound/sound.h"
 #include "workbench/frmmain.h"
 #include "workbench/workbench.h"
@@ -34,6 +35,8 @@ public:
     AppState& State() { return m_state; }
 
 private:
+    void UseScheme(SchemeChoice scheme);
+    void AskDesktop();
     void LoadLanguage(const QString& name);
     void ConnectWindows();
     void GiveHelp(QWidget& window); // By F1, as in the main window.
@@ -44,6 +47,7 @@ private:
 
     Application& m_application;
     AppState m_state;
+    SchemeChoice m_scheme = SchemeChoice::AsDesktop;
     std::unique_ptr<MidiPlayer> m_midi;
     std::unique_ptr<Clock> m_clock;
     WindowPlaces m_places; // Outlives the windows, which hide at their end.

@@ -4,10 +4,16 @@
 
 #include <QApplication>
 #include <QLayout>
+#include <QScreen>
 #include <QScrollBar>
 
 #include <algorithm>
 #include <cmath>
+
+QSize RoomWithin(const QScreen& screen) {
+    constexpr QSize frame(8, 36); // What desktops put around a window, at most.
+    return screen.availableGeometry().size() - frame;
+}
 
 QSize BestSize(const QWidget& window, const SeeGroup& see, const QSize& screen) {
     constexpr double share = 0.8; // Of the screen.

@@ -6,6 +6,11 @@
 #include "workbench/seegroup.h"
 #include "workbench/trygroup.h"
 
+class QScreen;
+
+// What the screen has for a window without its frame, in pixels.
+QSize RoomWithin(const QScreen& screen);
+
 // screen: the room that it has for windows, in pixels.
 
 // At the largest scale of the pictures, in steps of a half, that leaves a fifth of the screen
