@@ -11,9 +11,9 @@ namespace Awkward {
 constexpr int furtherString = 10; // Each string that a finger holds beyond its first.
 
 // The index finger lies flat most easily, and the better the longer it lies.
-constexpr int indexBarre = 2;
+constexpr int indexBarre = -1;
 constexpr int indexBetween = -6;   // Each string between the ends of its barre,
-constexpr int indexBetweenTwo = 4; // taken back in part where it holds only the ends,
+constexpr int indexBetweenTwo = 7; // taken back where it holds only the ends,
 constexpr int indexOverMute = 12;  // and a muted string has to be kept from sounding.
 
 constexpr int innerBarre = 13;  // By the middle or the ring finger.

@@ -28,6 +28,8 @@ void FingerNumbersTest::UsualFingers_data() {
     row("three on one fret below an open string", "x02220", "001230");
     row("the little finger where the ring finger can't be", "x32310", "032410");
     row("a barre of the index finger", "133211", "134211");
+    row("the index finger over two strings side by side", "x3211x", "032110");
+    row("two fingers rather than one over a string between them", "xx0232", "000132");
     row("a barre over four strings", "x24442", "012341");
     row("a barre with three fingers above", "x35543", "013421");
     row("all at one fret", "222222", "111111");

@@ -139,7 +139,7 @@ void VoicingStripTest::NextAndPrevious() {
     }
     Key(Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(Neck(), Text(19));
-    m_main->workbench.PressString(5, 1); // None of the list: the next one is the first.
+    m_main->workbench.LayShape(*ReadShape(u"111111")); // None of the list: the first is next.
     m_main->window.ShowState();
     Key(Qt::Key_PageDown, Qt::ControlModifier);
     QCOMPARE(Neck(), Text(0));
