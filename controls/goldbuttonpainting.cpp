@@ -24,13 +24,12 @@ constexpr int pictureGap = 6;
 constexpr int mostLetters = 22; // A longer caption widens the button no further and is cut.
 constexpr int captionFlags = Qt::TextSingleLine | Qt::TextShowMnemonic;
 
+// Whole pixels of the window's, also where the screen has several to one of them.
 void PaintRing(QPainter& painter, const QRect& ring, const QColor& upper, const QColor& lower) {
-    painter.setPen(lower);
-    painter.drawLine(ring.bottomLeft(), ring.bottomRight());
-    painter.drawLine(ring.topRight(), ring.bottomRight());
-    painter.setPen(upper);
-    painter.drawLine(ring.topLeft(), ring.topRight() - QPoint(1, 0));
-    painter.drawLine(ring.topLeft(), ring.bottomLeft() - QPoint(0, 1));
+    painter.fillRect(QRect(ring.left(), ring.bottom(), ring.width(), 1), lower);
+    painter.fillRect(QRect(ring.right(), ring.top(), 1, ring.height()), lower);
+    painter.fillRect(QRect(ring.left(), ring.top(), ring.width() - 1, 1), upper);
+    painter.fillRect(QRect(ring.left(), ring.top(), 1, ring.height() - 1), upper);
 }
 
 // The light falls from the upper left. A single ring lies at the very edge.
@@ -112,7 +111,7 @@ QPixmap Masked(const QPixmap& picture, const PictureMask& mask) {
 }
 
 void PaintPicture(QPainter& painter, const QRect& place, const GoldButtonLook& look) {
-    const double scale = painter.device()->devicePixelRatioF();
+    const double scale = painter.deviceTransform().m11(); // Of what is painted on in the end.
     const auto mode = look.faded ? QIcon::Disabled : QIcon::Normal;
     const QPixmap picture = look.picture.pixmap(place.size(), scale, mode);
     painter.drawPixmap(place, look.mask ? Masked(picture, *look.mask) : picture);

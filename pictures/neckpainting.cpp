@@ -206,7 +206,7 @@ void PaintBarre(QPainter& painter, const QRectF& bar) {
 } // namespace
 
 void PaintNeck(QPainter& painter, const FretboardLayout& layout, bool thinStringAtBottom) {
-    painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::window.Now());
+    painter.fillRect(QRectF(QPointF(0, 0), FretboardLayout::size), Colours::plate.Now());
     PaintWood(painter);
     PaintInlays(painter, layout);
     PaintFrets(painter, layout);

@@ -21,7 +21,7 @@ void PicStrings::Show(const FretboardView& view) {
 
 void PicStrings::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange)
-        m_neck = {}; // It ends in the window's colour.
+        m_neck = {}; // It ends in the colour around it.
     TwipPicture::changeEvent(event);
 }
 
@@ -31,7 +31,7 @@ void PicStrings::paintEvent(QPaintEvent*) {
         m_neck = QPixmap(pixels);
         m_neck.setDevicePixelRatio(devicePixelRatio());
         m_neck.fill(
-            Colours::window.Now()); // The neck ends somewhere within the last row of pixels.
+            Colours::plate.Now()); // The neck ends somewhere within the last row of pixels.
         QPainter painter(&m_neck);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(Scale(), Scale());
