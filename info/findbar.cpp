@@ -62,6 +62,8 @@ void FindBar::ShowField(bool show) {
 void FindBar::Open() {
     if (!m_open) {
         m_folded = Folded(m_text.toPlainText());
+        if (!m_text.viewport()->rect().contains(m_text.cursorRect()))
+            m_text.setTextCursor(m_text.cursorForPosition({0, 0})); // From where one reads.
         ShowField(true);
         txtFind_Change();
     }
@@ -96,6 +98,9 @@ void FindBar::ShowHit() {
     if (m_hits.empty()) {
         const Phrase none{QStringLiteral("не найдено"), QStringLiteral("not found")};
         lblFound->setText(txtFind->text().isEmpty() ? QString() : none.In(m_tongue));
+        QTextCursor before = m_text.textCursor();
+        before.setPosition(before.selectionStart()); // What is selected would look like a hit.
+        m_text.setTextCursor(before);
         return;
     }
     QTextCursor hit(m_text.document());

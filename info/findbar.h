@@ -19,7 +19,8 @@ public:
     // outlive the bar.
     FindBar(QPlainTextEdit& text, Tongue tongue, QWidget* parent);
 
-    // Shows the field and selects what stands in it.
+    // Shows the field and selects what stands in it. The search begins at the text's cursor, or
+    // where that is out of sight with the first line in sight.
     void Open();
 
     // Takes the marks away and gives the focus back to the text, at the hit that was shown.

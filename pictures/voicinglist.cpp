@@ -27,6 +27,11 @@ VoicingList::VoicingList(const QString& name, Flow flow, QWidget* parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setAutoScroll(false); // Only what is asked for moves the list under the reader's eyes.
     setMouseTracking(true);
+    // Another chord begins with its usual voicings, wherever the one before was left.
+    connect(&m_model, &QAbstractItemModel::modelReset, this, [this] {
+        horizontalScrollBar()->setValue(0);
+        verticalScrollBar()->setValue(0);
+    });
 }
 
 void VoicingList::SetScale(double scale) {

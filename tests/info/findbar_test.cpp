@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -101,6 +102,21 @@ private Q_SLOTS:
         QCOMPARE(Shown(), 5);
         QTest::keyClicks(Field(), QStringLiteral("cd"));
         QCOMPARE(Shown(), 9);
+    }
+
+    void TheSearchBeginsWhereOneReads() {
+        OpenHelp("needle\n" + QByteArray(500, '\n') + "needle\n" + QByteArray(500, '\n'));
+        m_help->Text1->verticalScrollBar()->setValue(300);
+        Find("needle");
+        QCOMPARE(m_help->picFind->lblFound->text(), QStringLiteral("2 из 2"));
+    }
+
+    void NothingLooksFoundThatIsNot() {
+        OpenHelp("one two\r\n");
+        Find("two");
+        QVERIFY(m_help->Text1->textCursor().hasSelection());
+        QTest::keyClicks(Field(), QStringLiteral("x"));
+        QVERIFY(!m_help->Text1->textCursor().hasSelection());
     }
 
     void WhatIsNotThereIsSaid() {

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void FollowsTheMarkedKeys();
     void FollowsTheTuning();
     void NeckIsTheCurrentRow();
+    void AnotherChordBeginsWithTheUsualOnes();
     void ClickLays();
     void DoubleClickStrums();
     void EnterLaysTheCurrentRow();
@@ -89,6 +90,17 @@ void VoicingStripTest::NeckIsTheCurrentRow() {
     m_main->workbench.PressString(5, 1);
     m_main->window.ShowState();
     QCOMPARE(Strip().CurrentRow(), -1);
+}
+
+void VoicingStripTest::AnotherChordBeginsWithTheUsualOnes() {
+    const auto place = [this] {
+        return Strip().horizontalScrollBar()->value() + Strip().verticalScrollBar()->value();
+    };
+    Strip().BringIntoView(Strip().Rows().rowCount() - 1);
+    QVERIFY(place() > 0);
+    m_main->window.lstBase->SelectRow(2);
+    QCoreApplication::processEvents();
+    QCOMPARE(place(), 0);
 }
 
 void VoicingStripTest::ClickLays() {
