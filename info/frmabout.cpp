@@ -2,6 +2,7 @@
 
 #include "controls/goldbutton.h"
 #include "controls/handle.h"
+#include "controls/windowtexts.h"
 #include "core/mdlmain.h"
 #include "core/phrase.h"
 #include "info/linklabel.h"
@@ -12,11 +13,30 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr int gap = 8;
 constexpr int lettersAcross = 62;
+
+constexpr std::array texts{
+    Ours(u"frmAbout", TextPlace::Caption, u"О программе", u"About"),
+    Ours(u"Label1", TextPlace::Caption, u"Тонвик", u"Tonvik"),
+    Ours(u"Label2", TextPlace::Caption, u"Версия 2.1-beta, платформа: Win9x/NT",
+         u"Version 2.1-beta, platform Win9x/NT"),
+    Ours(u"Label5", TextPlace::Caption,
+         u"Программа распространяется бесплатно и «как есть»: автор не несёт ответственности за "
+         u"последствия её использования.",
+         u"This program is distributed free of charge and \"as is\": its author accepts no "
+         u"responsibility for the consequences of using it."),
+    Ours(u"Label6", TextPlace::Caption,
+         u"Присылайте, пожалуйста, свои замечания и пожелания. Я, по возможности, отвечу Вам.",
+         u"If you have any questions, comments or suggestions, please mail them to me at the "
+         u"address above. I will try to fix any bugs or implement suggestions I receive (within "
+         u"reason)."),
+    Ours(u"cmdOK", TextPlace::Description, u"Закрыть окно", u"Close the window"),
+};
 
 QLabel* Label(int number, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -54,48 +74,22 @@ frmAbout::frmAbout(const AppState& state, const ChordRows& rows, const Author& a
 }
 
 void frmAbout::Form_Load(const AppState& state, const ChordRows& rows, const Author& author) {
-    const QString count = QString::number(ChordCount(rows));
-    ShowRussianTexts(author);
-    Label7->setText(QStringLiteral("Всего уникальных аккордов: ") + count);
-    if (!state.IsDefaultLanguage()) {
-        ShowEnglishTexts(author);
-        Label7->setText(QStringLiteral("Chords at this time: ") + count);
-    }
+    const Tongue tongue = state.InterfaceTongue();
+    ApplyTexts(*this, texts, {}, {tongue, std::nullopt});
+    Label3->setText(
+        Phrase{QStringLiteral("Автор программы: ") + author.name.russian + QStringLiteral(", "),
+               QStringLiteral("Author of program: ") + author.name.english}
+            .In(tongue));
     Label4->setText(author.email);
     Label4->setVisible(!author.email.isEmpty());
-    const Tongue tongue = state.InterfaceTongue();
     Label4->setAccessibleName(
         Phrase{QStringLiteral("Написать автору: %1"), QStringLiteral("Write to the author: %1")}
             .In(tongue)
             .arg(author.email));
-    cmdOK->setAccessibleDescription(
-        Phrase{QStringLiteral("Закрыть окно"), QStringLiteral("Close the window")}.In(tongue));
-}
-
-void frmAbout::ShowRussianTexts(const Author& author) {
-    setWindowTitle(QStringLiteral("О программе"));
-    Label1->setText(QStringLiteral("Тонвик"));
-    Label2->setText(QStringLiteral("Версия 2.1-beta, платформа: Win9x/NT"));
-    Label3->setText(QStringLiteral("Автор программы: ") + author.name.russian +
-                    QStringLiteral(", "));
-    Label5->setText(QStringLiteral("Программа распространяется бесплатно и «как есть»: автор не "
-                                   "несёт ответственности за последствия её использования."));
-    Label6->setText(QStringLiteral("Присылайте, пожалуйста, свои замечания и пожелания. Я, по "
-                                   "возможности, отвечу Вам."));
-}
-
-void frmAbout::ShowEnglishTexts(const Author& author) {
-    setWindowTitle(QStringLiteral("About"));
-    Label1->setText(QStringLiteral("Tonvik"));
-    Label2->setText(QStringLiteral("Version 2.1-beta, platform Win9x/NT"));
-    Label3->setText(QStringLiteral("Author of program: ") + author.name.english);
-    Label5->setText(QStringLiteral("This program is distributed free of charge and \"as is\": its "
-                                   "author accepts no responsibility for the consequences of using "
-                                   "it."));
-    Label6->setText(QStringLiteral(
-        "If you have any questions, comments or suggestions, please mail them to me at the "
-        "address above. I will try to fix any bugs or implement suggestions I receive (within "
-        "reason)."));
+    Label7->setText(Phrase{QStringLiteral("Всего уникальных аккордов: "),
+                           QStringLiteral("Chords at this time: ")}
+                        .In(tongue) +
+                    QString::number(ChordCount(rows)));
 }
 
 void frmAbout::LayOut() {

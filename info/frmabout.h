@@ -38,8 +38,6 @@ public:
 
 private:
     void Form_Load(const AppState& state, const ChordRows& rows, const Author& author);
-    void ShowRussianTexts(const Author& author);
-    void ShowEnglishTexts(const Author& author);
     void LayOut();
 
     std::function<void(const QUrl&)> m_openLink;

@@ -55,10 +55,7 @@ frmSettings::frmSettings(AppState& state, MidiPlayer& midi, Clock& clock, HandOv
       m_handOver(std::move(handOver)) {
     setObjectName(QStringLiteral("frmSettings"));
     CreateControls();
-    ShowBuiltInTexts();
-    ApplyTongue();
-    if (!m_state.IsDefaultLanguage())
-        ApplyLanguage();
+    ShowTexts();
     LayOut();
     Connect();
 }

@@ -83,10 +83,8 @@ private:
     void LayOut();
     QLayout* LayOutStrings();
     void Connect();
-    void ShowBuiltInTexts();
-    void ApplyLanguage();
+    void ShowTexts();
     void ListLanguages();
-    void ApplyTongue();
     void UseStandardTuning();
     void EnableStrings(bool enable);
     void SetSoundNumbers();

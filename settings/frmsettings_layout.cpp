@@ -1,4 +1,4 @@
-// The settings dialog's controls, texts, and where they stand.
+// The settings dialog's controls, and where they stand.
 #include "settings/frmsettings.h"
 
 #include "controls/cataloguemodel.h"
@@ -7,6 +7,7 @@
 #include "controls/icons.h"
 #include "controls/newcontrols.h"
 #include "core/language.h"
+#include "settings/settingstexts.h"
 #include "settings/tuningdelegate.h"
 
 #include <QBoxLayout>
@@ -21,12 +22,6 @@ constexpr int octaves = 4;
 // The labels of the strings 1 to 6 are not in the order of their names.
 constexpr std::array<const char16_t*, stringCount> labelNames{u"Label1", u"Label3", u"Label4",
                                                               u"Label5", u"Label6", u"Label2"};
-constexpr std::array<const char16_t*, stringCount> labelTexts{
-    u"Тонкая струна:",    u"Вторая струна:", u"Третья струна:",
-    u"Четвертая струна:", u"Пятая струна:",  u"Шестая струна:"};
-constexpr std::array<const char16_t*, 4> optionTexts{
-    u"Стандартная (тонкая вверху)", u"Стандартная (тонкая внизу)",
-    u"Пользовательская (тонкая вверху):", u"Пользовательская (тонкая внизу):"};
 
 template <typename Widget>
 Widget* Named(Widget* widget, const QString& name) {
@@ -75,65 +70,12 @@ void frmSettings::CreateControls() {
     cmdCancel->setAutoDefault(false);
 }
 
-void frmSettings::ShowBuiltInTexts() {
-    setWindowTitle(QStringLiteral("Настройки"));
-    Frame1->setTitle(QStringLiteral("Настройка:"));
-    Frame2->setTitle(QStringLiteral("Язык интерфейса/Interface language:"));
-    Frame3->setTitle(QStringLiteral("Струны:"));
-    Check1->setText(QStringLiteral("Запоминать настройки"));
-    cmdCancel->setText(QStringLiteral("Отмена"));
-    for (std::size_t i = 0; i < Options.size(); ++i)
-        Options[i]->setText(QString::fromUtf16(optionTexts[i]));
-    for (std::size_t i = 0; i < stringCount; ++i)
-        StringLabels[i]->setText(QString::fromUtf16(labelTexts[i]));
+void frmSettings::ShowTexts() {
+    ApplyTexts(*this, SettingsTexts(), QStringLiteral("Settings"), TextsInUse(m_state));
     for (std::size_t i = 0; i < stringCount; ++i) {
         Text1[i]->setText(standardStrings.notes[i]);
         Text1[i]->setProperty("Tag", standardStrings.soundNumbers[i]);
     }
-}
-
-void frmSettings::ApplyLanguage() {
-    const LanguageTexts texts(m_state.LanguageFile);
-    const auto text = [&](int key) { return texts.Text(QStringLiteral("Settings"), key); };
-    setWindowTitle(QStringLiteral("Settings"));
-    Frame1->setTitle(text(1));
-    Frame3->setTitle(text(2));
-    for (std::size_t i = 0; i < Options.size(); ++i)
-        Options[i]->setText(text(static_cast<int>(i) + 3));
-    Check1->setText(text(7));
-    for (std::size_t i = 0; i < stringCount; ++i)
-        StringLabels[i]->setText(text(static_cast<int>(i) + 8));
-    cmdCancel->setText(text(15));
-}
-
-void frmSettings::ApplyTongue() {
-    const Tongue tongue = m_state.InterfaceTongue();
-    const auto name = [&](QWidget* control, const char16_t* russian, const char16_t* english,
-                          std::size_t string) {
-        const QString text =
-            QString::fromUtf16(tongue == Tongue::Russian ? russian : english).arg(string + 1);
-        control->setAccessibleName(text);
-        control->setToolTip(text);
-    };
-    for (std::size_t i = 0; i < stringCount; ++i) {
-        name(Text1[i], u"Нота струны %1", u"Note of string %1", i);
-        name(VScroll1[i], u"Выбрать ноту струны %1", u"Choose the note of string %1", i);
-        name(VScroll2[i], u"Октава струны %1", u"Octave of string %1", i);
-        name(Image1[i], u"Послушать струну %1", u"Listen to string %1", i);
-    }
-    const auto say = [tongue](const char16_t* russian, const char16_t* english) {
-        return QString::fromUtf16(tongue == Tongue::Russian ? russian : english);
-    };
-    Check2->setText(say(u"Гриф для левши", u"Left-handed neck"));
-    lblScheme->setText(say(u"Цвета:", u"Colours:"));
-    lstScheme->SetTexts({say(u"как на рабочем столе", u"as the desktop"), say(u"светлые", u"light"),
-                         say(u"тёмные", u"dark")});
-    lstScheme->setToolTip(say(u"Цвета окон", u"Colours of the windows"));
-    lstScheme->setAccessibleName(lstScheme->toolTip());
-    lblNote->setText(say(u"нота", u"note"));
-    lblOctave->setText(say(u"октава", u"octave"));
-    lstTunings->setAccessibleName(say(u"Строи", u"Tunings"));
-    lstLang->setAccessibleName(Frame2->title());
 }
 
 void frmSettings::LayOut() {
