@@ -16,6 +16,7 @@ constexpr double nutHeight = 44;
 constexpr double largestDot = 140;
 constexpr double dotOfRow = 0.78; // How much of its row's height a dot takes.
 constexpr double barOfDot = 0.7;  // A bar is slimmer than the dots of the strings it sounds.
+constexpr double positionGap = 36;
 constexpr int mostRowsForNumbers = 5;
 
 } // namespace
@@ -108,7 +109,7 @@ QRectF DiagramLayout::NameRect() const {
 }
 
 QRectF DiagramLayout::PositionRect() const {
-    // Clear of the dot on the outermost string.
-    const double room = gridLeft - largestDot / 2 - 10;
+    // Clear of the dot on the outermost string; a second figure may reach out.
+    const double room = gridLeft - largestDot / 2 - positionGap;
     return {m_leftHanded ? width - room : 0, LineY(0), room, RowHeight()};
 }

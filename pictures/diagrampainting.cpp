@@ -54,7 +54,7 @@ void PaintGrid(QPainter& painter, const DiagramLayout& layout, const DiagramColo
     painter.setFont(FontOfSize(painter, positionSize, false));
     const bool numberAtLeft = layout.PositionRect().left() < grid.left();
     const int side = numberAtLeft ? Qt::AlignRight : Qt::AlignLeft;
-    painter.drawText(layout.PositionRect(), side | Qt::AlignVCenter,
+    painter.drawText(layout.PositionRect(), side | Qt::AlignVCenter | Qt::TextDontClip,
                      QString::number(layout.FirstFret()));
 }
 
