@@ -133,6 +133,15 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     QListView::keyPressEvent(event);
 }
 
+// No row is cut in half at the end: what is left of the height stays empty.
+void ListBox::resizeEvent(QResizeEvent* event) {
+    QListView::resizeEvent(event);
+    const int row = sizeHintForRow(0);
+    const int left = row > 0 ? (height() - 2 * frameWidth()) % row : 0;
+    if (const QMargins margins(0, 0, 0, left); margins != viewportMargins())
+        setViewportMargins(margins);
+}
+
 void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QListView::currentChanged(current, previous);
     if (current.isValid() && !m_takesFocus)

@@ -58,7 +58,8 @@ void TextLabel::paintEvent(QPaintEvent*) {
     if (text().isEmpty()) // No font is loaded for nothing.
         return;
     const QRect rect = TextRect();
-    style()->drawItemText(
-        &painter, rect, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
-        palette(), isEnabled(), Elided(text(), fontMetrics(), rect.width()), foregroundRole());
+    style()->drawItemText(&painter, rect,
+                          static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
+                          palette(), isEnabled(),
+                          Elided(text().trimmed(), fontMetrics(), rect.width()), foregroundRole());
 }

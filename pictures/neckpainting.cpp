@@ -6,7 +6,9 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -161,13 +163,18 @@ void PaintFinger(QPainter& painter, const QRectF& disc, bool root) {
     painter.drawEllipse(disc);
 }
 
-// Which finger it is, at the right of the centre, which keeps its colour.
+// Which finger it is, at the right of the centre, which keeps its colour: three pixels, and what
+// the letter's edge takes of the next.
 void PaintFingerNumber(QPainter& painter, QPointF centre, int finger) {
     if (finger == 0)
         return;
-    constexpr QRectF beside(45, -75, 78, 150);
+    constexpr double end = 120;
+    constexpr double letterShare = 0.7; // Of a digit's height, its width.
+    const double pixel = 1 / painter.deviceTransform().m11();
+    const double begin = std::max(22.0, 2.6 * pixel);
+    const QRectF beside(begin, -75, end - begin, 150);
     QFont font = painter.font();
-    font.setPixelSize(112);
+    font.setPixelSize(qFloor((end - begin) / letterShare));
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(Colours::onWood);

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void ASecondQuickClickChoosesItsRow();
     void ASecondClickOnTheSameRowIsADoubleClick();
     void WhatIsSelectedAgainComesIntoSight();
+    void NoRowIsCutAtTheEnd();
 
 private:
     QPoint Centre(int row) const {
@@ -54,6 +55,15 @@ void ListBoxTest::init() {
     m_list->SelectRow(1);
     m_chosen.clear();
     connect(m_list.get(), &ListBox::RowChosen, this, [this](int row) { m_chosen.push_back(row); });
+}
+
+void ListBoxTest::NoRowIsCutAtTheEnd() {
+    const int row = m_list->sizeHintForRow(0);
+    for (int more = 0; more < row; more += 3) {
+        m_list->resize(200, 3 * row + more);
+        QCOMPARE(m_list->viewport()->height() % row, 0);
+        QVERIFY(m_list->height() - m_list->viewport()->height() < row + 2 * m_list->frameWidth());
+    }
 }
 
 void ListBoxTest::AClickRunsTheCommand() {
