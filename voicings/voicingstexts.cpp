@@ -10,7 +10,7 @@ constexpr std::array texts{
     Ours(u"frmVoicings", Caption, u"Аппликатуры", u"Every way to play it"),
     Ours(u"lstVoicings", Name, u"Аппликатуры", u"Every way to play it"),
 
-    Ours(u"lblFret", Caption, u"Лады от и до:", u"Frets from and to:"),
+    Ours(u"lblFret", Caption, u"Нижний лад от и до:", u"Lowest fret from and to:"),
     Ours(u"lstFromFret", Hint, u"Нижний зажатый лад: от", u"The lowest stopped fret: from"),
     Ours(u"lstToFret", Hint, u"Нижний зажатый лад: до", u"The lowest stopped fret: to"),
     Ours(u"lblOpenStrings", Caption, u"Открытые струны:", u"Open strings:"),
