@@ -1,7 +1,9 @@
 // Every text can be read on what lies behind it, and every edge be seen, in both schemes: contrasts
 // by the formula of the Web Content Accessibility Guidelines.
 #include "controls/colours.h"
+#include "controls/theme.h"
 
+#include <QPalette>
 #include <QTest>
 
 #include <algorithm>
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void TheFormula();
     void ThePrescribedAreTheSame();
     void TheSchemeInUse();
+    void TheDesktopsWindowsDecide();
     void Contrasts_data();
     void Contrasts();
 };
@@ -84,6 +87,14 @@ void ColoursTest::TheSchemeInUse() {
     Colours::UseScheme(Scheme::Dark);
     QCOMPARE(Colours::text.Now(), Colours::text.In(Scheme::Dark));
     Colours::UseScheme(Scheme::Light);
+}
+
+void ColoursTest::TheDesktopsWindowsDecide() {
+    const auto scheme = [](const QColor& window) {
+        return SchemeOfWindows(QPalette(Qt::gray, window));
+    };
+    QCOMPARE(scheme(QColor(0x31, 0x36, 0x3B)), Scheme::Dark);
+    QCOMPARE(scheme(QColor(0xEF, 0xF0, 0xF1)), Scheme::Light);
 }
 
 void ColoursTest::Contrasts_data() {

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void NothingIsCutInALargeWindow();
     void TheToolTipOfAStringNamesTheTuning();
     void AWipedNeckSaysHowToBringItBack();
+    void TheCardLetsThePointerThrough();
 
 private:
     void Resize(int width, int height) {
@@ -117,6 +118,18 @@ void WindowRoomTest::AWipedNeckSaysHowToBringItBack() {
     // Where there was nothing, there is nothing to bring back.
     m_main->Click(m_main->board, place, Qt::RightButton);
     QVERIFY(!m_main->Text(QStringLiteral("lblHint")).contains(QStringLiteral("Ctrl+Z")));
+}
+
+void WindowRoomTest::TheCardLetsThePointerThrough() {
+    m_main->window.Label3_MouseMove(2);
+    QCOMPARE(m_main->Colour(QStringLiteral("Label3(2)")), QColor(0, 0, 255));
+    QWidget* card = m_main->window.lblKeys->parentWidget();
+    QVERIFY(card != &m_main->window && card->hasMouseTracking());
+    const QPointF place(1, 1);
+    QMouseEvent move(QEvent::MouseMove, place, card->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                     {});
+    QCoreApplication::sendEvent(card, &move);
+    QCOMPARE(m_main->Colour(QStringLiteral("Label3(2)")), QColor(0, 0, 0));
 }
 
 int main(int argc, char** argv) {
