@@ -25,7 +25,7 @@ QRectF Square(const QRectF& rect) {
 
 } // namespace
 
-void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QColor& line) {
+void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QPen& line) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(line);

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 // A filled face with a line around it, within the rectangle.
-void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QColor& line);
+void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const QPen& line);
 
 // A face that is ticked, or struck through where it is checked half; a round one that is chosen
 // where it is on.

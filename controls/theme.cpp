@@ -45,7 +45,7 @@ public:
             QProxyStyle::drawControl(element, &button, painter, widget);
         } else if (element == CE_ShapedFrame && IsStyledPanel(*option)) {
             PaintFace(*painter, QRectF(option->rect), option->palette.color(QPalette::Base),
-                      Colours::edge);
+                      Colours::edge.Now());
         } else {
             QProxyStyle::drawControl(element, option, painter, widget);
         }
@@ -79,9 +79,12 @@ public:
             break;
         case PE_PanelLineEdit:
             PaintFace(*painter, QRectF(option->rect), option->palette.color(QPalette::Base),
-                      Colours::edge);
+                      Colours::edge.Now());
             if (FocusRing::IsShown(widget))
                 FocusRing::Paint(*painter, QRectF(option->rect));
+            break;
+        case PE_FrameMenu:
+            PaintFace(*painter, QRectF(option->rect), Qt::transparent, Colours::edge.Now());
             break;
         case PE_PanelButtonCommand:
             PaintButtonFace(*option, *painter);

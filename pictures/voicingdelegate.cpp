@@ -1,6 +1,7 @@
 #include "pictures/voicingdelegate.h"
 
 #include "controls/colours.h"
+#include "controls/faces.h"
 #include "controls/focusring.h"
 #include "controls/tooltip.h"
 #include "pictures/diagrampainting.h"
@@ -41,8 +42,10 @@ void VoicingDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const bool pointed = option.state.testFlag(QStyle::State_MouseOver);
     DiagramColours colours = ScreenDiagramColours();
     if (current) {
-        painter->fillRect(option.rect, Colours::selection.Now());
-        colours = {Colours::selectionText, Colours::selectionText, Colours::selection};
+        // What is on the neck; what rules it is selected elsewhere.
+        PaintFace(*painter, QRectF(option.rect).adjusted(1, 1, -1, -1), Colours::dimSelection,
+                  QPen(Colours::selection, 2));
+        colours = {Colours::text, Colours::text, Colours::dimSelection};
     } else if (pointed) {
         painter->fillRect(option.rect, Colours::fieldStripe.Now());
     }
