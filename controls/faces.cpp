@@ -34,6 +34,19 @@ void PaintFace(QPainter& painter, const QRectF& rect, const QColor& fill, const 
     painter.restore();
 }
 
+void PaintArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled) {
+    constexpr double half = 3.5; // Of its base, in pixels.
+    const double tip = up ? -half / 2 : half / 2;
+    const QPointF middle = rect.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(enabled ? Colours::text.Now() : Colours::mutedText.Now());
+    painter.drawPolygon(QPolygonF(
+        {middle + QPointF(-half, -tip), middle + QPointF(half, -tip), middle + QPointF(0, tip)}));
+    painter.restore();
+}
+
 void PaintCheck(QPainter& painter, const QRectF& rect, Qt::CheckState state, bool enabled) {
     const QRectF box = Square(rect);
     PaintFace(painter, box, Colours::field, LineOf(enabled));

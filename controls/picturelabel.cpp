@@ -1,6 +1,6 @@
 #include "controls/picturelabel.h"
 
-#include <QPainter>
+#include <QEvent>
 
 PictureLabel::PictureLabel(const QString& name, Icon icon, QWidget* parent)
     : QLabel(parent), m_picture(MakeIcon(icon)) {
@@ -8,7 +8,17 @@ PictureLabel::PictureLabel(const QString& name, Icon icon, QWidget* parent)
     setMouseTracking(true);
 }
 
-void PictureLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    m_picture.paint(&painter, rect());
+void PictureLabel::Draw() {
+    setPixmap(m_picture.pixmap(size(), devicePixelRatio()));
+}
+
+void PictureLabel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    Draw();
+}
+
+void PictureLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        Draw();
 }

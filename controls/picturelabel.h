@@ -1,4 +1,4 @@
-// A label that shows a picture in the colours of the scheme in use.
+// A label that shows a picture, as large as it is itself, in the colours of the scheme in use.
 #pragma once
 
 #include "controls/icons.h"
@@ -12,8 +12,11 @@ public:
     PictureLabel(const QString& name, Icon icon, QWidget* parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void Draw();
+
     QIcon m_picture;
 };

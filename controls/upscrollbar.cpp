@@ -1,9 +1,12 @@
 #include "controls/upscrollbar.h"
 
+#include "controls/colours.h"
+#include "controls/faces.h"
 #include "controls/focusring.h"
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionSlider>
 
 UpScrollBar::UpScrollBar(const QString& name, int least, int most, QWidget* parent)
     : QScrollBar(Qt::Vertical, parent) {
@@ -37,13 +40,24 @@ void UpScrollBar::LetGo() {
     QScrollBar::mouseReleaseEvent(&release);
 }
 
-// The toolkit's scroll bar looks the same with the focus.
-void UpScrollBar::paintEvent(QPaintEvent* event) {
-    QScrollBar::paintEvent(event);
-    if (!FocusRing::IsShown(this))
-        return;
+// Two arrows on a face: it is used as a spin bar, and too low for a slider that says anything.
+void UpScrollBar::paintEvent(QPaintEvent*) {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
     QPainter painter(this);
-    FocusRing::Paint(painter, QRectF(rect()));
+    PaintFace(painter, QRectF(rect()), Colours::buttonFace,
+              isEnabled() ? Colours::edge.Now() : Colours::line.Now());
+    for (const bool up : {true, false}) {
+        const auto part = up ? QStyle::SC_ScrollBarSubLine : QStyle::SC_ScrollBarAddLine;
+        const QRectF arrow(style()->subControlRect(QStyle::CC_ScrollBar, &option, part, this));
+        const bool pressed =
+            option.activeSubControls == part && option.state.testFlag(QStyle::State_Sunken);
+        if (pressed)
+            PaintFace(painter, arrow, Colours::checked, Colours::edge.Now());
+        PaintArrow(painter, arrow, up, isEnabled());
+    }
+    if (FocusRing::IsShown(this))
+        FocusRing::Paint(painter, QRectF(rect()));
 }
 
 // The toolkit turns keys and wheel round, but never the arrows.
