@@ -10,8 +10,8 @@
 
 #include <utility>
 
-WindowPlaces::WindowPlaces(const QString& path, QStringList windows)
-    : m_path(path), m_windows(std::move(windows)) {
+WindowPlaces::WindowPlaces(QString path, QStringList windows)
+    : m_path(std::move(path)), m_windows(std::move(windows)) {
     qApp->installEventFilter(this);
 }
 

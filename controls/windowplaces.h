@@ -13,7 +13,7 @@ public:
     // path: the file they are kept in; its folder is made when a window is hidden. What cannot be
     // read or written is not remembered, silently. windows: the object names of those that are;
     // each gets its place back when it is shown for the first time.
-    WindowPlaces(const QString& path, QStringList windows);
+    WindowPlaces(QString path, QStringList windows);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
