@@ -6,6 +6,7 @@
 #include "pictures/keyboardlayout.h"
 
 #include <QPainter>
+#include <QtMath>
 
 #include <cmath>
 
@@ -69,7 +70,7 @@ void InstrumentPanel::ShowLabels(const LabelsView& view) {
     }
     if (view.nutSigns != m_nutSigns) {
         m_nutSigns = view.nutSigns;
-        update();
+        update(NutSignsRect());
     }
     const auto colour = [](bool lit) { return lit ? Colours::highlight : Colours::normalText; };
     for (int fret = 1; fret <= fretLabels; ++fret)
@@ -122,14 +123,21 @@ void InstrumentPanel::paintEvent(QPaintEvent*) {
                      radius * scale);
 }
 
+// Where the signs stand, beside the board, which is not painted anew with them.
+QRect InstrumentPanel::NutSignsRect() const {
+    const QRect board = picStrings->geometry();
+    const int width = qCeil(nutMargin * picStrings->Scale());
+    const int left = m_layout.leftHanded ? board.right() + 1 : board.left() - width;
+    return {left, board.top(), width, board.height()};
+}
+
 // One plate lies under the board, the signs, the fret numbers and the notes.
 void InstrumentPanel::PaintPlate(QPainter& painter) const {
     constexpr double margin = 3;
     QRectF plate(picStrings->geometry());
     for (const QWidget* label : std::initializer_list<QWidget*>{Label3.front(), Label4.front()})
         plate |= QRectF(label->geometry());
-    const double signs = nutMargin * picStrings->Scale();
-    plate.adjust(m_layout.leftHanded ? 0 : -signs, 0, m_layout.leftHanded ? signs : 0, 0);
+    plate |= QRectF(NutSignsRect());
     painter.setPen(Qt::NoPen);
     painter.setBrush(Colours::plate);
     painter.drawRoundedRect(plate.adjusted(-margin, -margin, margin, margin), margin, margin);

@@ -40,6 +40,7 @@ protected:
 
 private:
     void Place();
+    QRect NutSignsRect() const;
     void PaintPlate(QPainter& painter) const;
 
     FretboardLayout m_layout;
