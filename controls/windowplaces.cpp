@@ -37,17 +37,23 @@ void WindowPlaces::Keep(const QWidget& window) const {
         static_cast<void>(ReplaceFile(m_path, bytes));
 }
 
+// A window is given its place when it is shown, as it takes sizes of its own before; the second
+// time it stands where it was left.
 bool WindowPlaces::eventFilter(QObject* watched, QEvent* event) {
-    const bool begins = event->type() == QEvent::Polish;
+    constexpr auto placed = "placed";
+    const bool begins = event->type() == QEvent::Show && !event->spontaneous();
     const bool ends = event->type() == QEvent::Hide && !event->spontaneous();
     if (!begins && !ends)
         return false;
     auto* window = qobject_cast<QWidget*>(watched);
     if (window == nullptr || !window->isWindow() || !m_windows.contains(window->objectName()))
         return false;
-    if (ends)
+    if (ends) {
         Keep(*window);
-    else if (const Places places = Read(); places.contains(window->objectName()))
-        window->restoreGeometry(places.at(window->objectName()));
+    } else if (!window->property(placed).toBool()) {
+        window->setProperty(placed, true);
+        if (const Places places = Read(); places.contains(window->objectName()))
+            window->restoreGeometry(places.at(window->objectName()));
+    }
     return false;
 }

@@ -33,6 +33,33 @@ private Q_SLOTS:
         QCOMPARE(Shown(QStringLiteral("frmMain"), {}).size(), QSize(444, 321));
     }
 
+    void AMaximisedWindowComesBackMaximised() {
+        const WindowPlaces places(m_path, {QStringLiteral("frmMain")});
+        {
+            QWidget window;
+            window.setObjectName(QStringLiteral("frmMain"));
+            window.showMaximized();
+            window.close();
+        }
+        QWidget window;
+        window.setObjectName(QStringLiteral("frmMain"));
+        window.show();
+        QVERIFY(window.isMaximized());
+    }
+
+    void TheSecondTimeInOneRunItStandsWhereItWasLeft() {
+        const WindowPlaces places(m_path, {QStringLiteral("frmMain")});
+        Shown(QStringLiteral("frmMain"), QRect(10, 20, 444, 321));
+        QWidget window;
+        window.setObjectName(QStringLiteral("frmMain"));
+        window.show();
+        QCOMPARE(window.size(), QSize(444, 321));
+        window.hide();
+        window.resize(300, 200);
+        window.show();
+        QCOMPARE(window.size(), QSize(300, 200));
+    }
+
     void OthersAreNotRemembered() {
         const WindowPlaces places(m_path, {QStringLiteral("frmHelp")});
         Shown(QStringLiteral("frmSplash"), QRect(40, 50, 333, 222));

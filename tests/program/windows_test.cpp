@@ -1,6 +1,7 @@
 // Which window opens how, what it asks, and how the program ends.
 #include "controls/application.h"
 #include "controls/colours.h"
+#include "core/statefolder.h"
 #include "diagrams/frmdiags.h"
 #include "info/frmabout.h"
 #include "info/frmhelp.h"
@@ -9,6 +10,7 @@
 #include "support/dialogs.h"
 #include "support/oddfiles.h"
 
+#include <QFile>
 #include <QFileDialog>
 #include <QPlainTextEdit>
 
@@ -30,6 +32,7 @@ class WindowsTest : public QObject {
 
 private Q_SLOTS:
     void init() {
+        QFile::remove(StateFolder() + QStringLiteral("/windows")); // As at the first start.
         m_folder = std::make_unique<TestFolder>();
         QVERIFY(m_folder->Write(QStringLiteral("help.dat"), "help"));
     }
@@ -124,6 +127,15 @@ private Q_SLOTS:
         Press(Qt::Key_F10);
         QVERIFY(m_start->State().LeftHanded);
         QVERIFY(!m_folder->Names().contains(QStringLiteral("tonvik.ini")));
+    }
+
+    void TheMainWindowComesBackWhereItStood() {
+        Start();
+        const int opened = m_start->Window().height();
+        m_start->Window().resize(m_start->Window().width(), opened + 60);
+        m_start.reset();
+        Start();
+        QCOMPARE(m_start->Window().height(), opened + 60);
     }
 
     void TheChosenColoursAreThereAtOnceAndAtTheNextStart() {
