@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -46,6 +47,10 @@ frmVoicings::frmVoicings(const AppState& state)
                    ? MovementInWords(MovementBetween(m_hand, shape), m_state.InterfaceTongue())
                    : QString();
     });
+    Handle(new QShortcut(Qt::CTRL | Qt::Key_PageDown, this), &QShortcut::activated, this,
+           [this] { StepVoicing(1); });
+    Handle(new QShortcut(Qt::CTRL | Qt::Key_PageUp, this), &QShortcut::activated, this,
+           [this] { StepVoicing(-1); });
     ShowTexts(Tongue::Russian);
     LetAllPass();
     constexpr double cellScale = 1.25;
@@ -103,6 +108,15 @@ void frmVoicings::Choose() {
 void frmVoicings::cmdAll_Click() {
     LetAllPass();
     Choose();
+}
+
+void frmVoicings::StepVoicing(int step) {
+    const int row = lstVoicings->CurrentRow() + step;
+    if (row < 0 || row >= lstVoicings->Rows().rowCount())
+        return;
+    Ask(&frmVoicings::LayAsked, row);
+    lstVoicings->SetCurrentRow(row);
+    lstVoicings->BringIntoView(row);
 }
 
 void frmVoicings::Ask(void (frmVoicings::*asked)(const Shape&), int row) {

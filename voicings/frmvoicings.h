@@ -35,6 +35,7 @@ private:
     void ShowTexts(Tongue tongue);
     void Choose();
     void cmdAll_Click();
+    void StepVoicing(int step); // Lays the next one of the list.
 
     // Runs it without letting the rows change their order under the pointer.
     void Ask(void (frmVoicings::*asked)(const Shape&), int row);

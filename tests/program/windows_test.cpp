@@ -9,6 +9,7 @@
 #include "settings/frmsettings.h"
 #include "support/dialogs.h"
 #include "support/oddfiles.h"
+#include "voicings/frmvoicings.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -99,6 +100,18 @@ private Q_SLOTS:
         Press(Qt::Key_F10);
         QCOMPARE(report.name, QStringLiteral("RunTimeError"));
         QCOMPARE(thick, QStringLiteral("D"));
+    }
+
+    void TheNextVoicingIsTheWindowsOwn() {
+        Start();
+        Press(Qt::Key_F11);
+        frmVoicings* voicings = Shown<frmVoicings>().first();
+        QVERIFY(QTest::qWaitForWindowActive(voicings));
+        voicings->chkNoBarre->click();
+        m_start->Window().LayShape(voicings->lstVoicings->Rows().ShapeAt(2));
+        QTest::keyClick(voicings, Qt::Key_PageDown, Qt::ControlModifier);
+        QCOMPARE(FretsText(m_start->Window().State().NeckShape()),
+                 voicings->lstVoicings->model()->index(3, 0).data().toString());
     }
 
     void ASheetThatIsAskedForAgainIsTheSame() {

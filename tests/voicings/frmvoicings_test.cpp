@@ -24,6 +24,7 @@ private Q_SLOTS:
     void NearTheHandNotTheNeck();
     void RowsStayWhileOneIsLaid();
     void ClickEnterAndDoubleClick();
+    void NextAndPreviousOfItsOwnList();
     void EscapeCloses();
     void Captions();
     void OpensManyAtOnce();
@@ -178,6 +179,20 @@ void FrmVoicingsTest::ClickEnterAndDoubleClick() {
     QCOMPARE(FretsText(laid[1][0].value<Shape>()), Text(4));
     QTest::mouseDClick(viewport, Qt::LeftButton, {}, Place(0));
     QCOMPARE(strummed.count(), 1);
+}
+
+void FrmVoicingsTest::NextAndPreviousOfItsOwnList() {
+    m_window->chkNoBarre->click();
+    QStringList laid;
+    connect(m_window.get(), &frmVoicings::LayAsked, this,
+            [&](const Shape& shape) { laid += FretsText(shape); });
+    m_window->lstVoicings->SetCurrentRow(-1);
+    for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageDown,
+                              Qt::Key_PageUp, Qt::Key_PageUp, Qt::Key_PageUp})
+        QTest::keyClick(m_window->lstBass, key, Qt::ControlModifier);
+    QCOMPARE(laid, (QStringList{Text(0), Text(1), Text(2), Text(1), Text(0)}));
+    QCOMPARE(m_window->lstVoicings->CurrentRow(), 0);
+    QCOMPARE(m_window->lstBass->currentIndex(), 0);
 }
 
 void FrmVoicingsTest::EscapeCloses() {
