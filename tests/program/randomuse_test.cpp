@@ -1,6 +1,9 @@
 // Thousands of random actions in the real windows; after each of them the program must still
 // be what a user relies on. TONVIK_ACTIONS and TONVIK_SEED say how many and which.
 #include "controls/application.h"
+#include "diagrams/frmdiags.h"
+#include "heardchord.h"
+#include "invariants.h"
 #include "pictures/fretboardlayout.h"
 #include "pictures/keyboardlayout.h"
 #include "program/startup.h"
@@ -63,6 +66,8 @@ private:
     void CheckPictures();
     void CheckFingering();
     void CheckNoDialogIsLeft();
+    void CheckInvariants();
+    void CheckHeard();
 
     frmMain& Window() { return m_start->Window(); }
     Workbench& State() { return Window().State(); }
@@ -72,6 +77,7 @@ private:
     SilentPlayer* m_player = nullptr;
     HandClock* m_clock = nullptr;
     std::unique_ptr<StartUp> m_start;
+    int m_chordsHeard = 0;
 };
 
 void RandomUseTest::init() {
@@ -93,7 +99,7 @@ void RandomUseTest::init() {
 }
 
 void RandomUseTest::TheProgramStaysWhole() {
-    const int actions = Parameter("TONVIK_ACTIONS", 20'000);
+    const int actions = Parameter("TONVIK_ACTIONS", 5000);
     const auto seed = static_cast<quint32>(Parameter("TONVIK_SEED", 1));
     RandomUser user(Window(), seed, m_folder.Path());
     m_clock->onWait = [&user] {
@@ -102,16 +108,31 @@ void RandomUseTest::TheProgramStaysWhole() {
     };
     qint64 memory = 0;
     qsizetype widgets = 0;
+    Workbench before = State();
+    bool canGoBack = true; // To that.
     for (int action = 1; action <= actions; ++action) {
         user.Act();
         // Marks stay where the fingers are while other strings are laid under them.
-        if (user.MetSettings())
+        if (user.MetSettings()) {
             Window().picStrings_MouseDown(Qt::RightButton, {});
+            canGoBack = false;
+        }
+        if (user.MetUndo())
+            canGoBack = false;
         // What was done until then stays, so that not all may be named yet.
         if (user.MetError())
             Window().picKeyboard_MouseDown(Qt::RightButton, {});
         Check();
+        if (action % 10 == 0) {
+            if (canGoBack)
+                QCOMPARE(BrokenHistory(Window(), before), QString());
+            before = State();
+            canGoBack = true;
+        }
+        if (action % 200 == 0)
+            CheckHeard();
         if (action % 100 == 0) {
+            CheckInvariants();
             CheckPictures();
             CheckFingering();
         }
@@ -134,6 +155,22 @@ void RandomUseTest::TheProgramStaysWhole() {
     QVERIFY(QApplication::allWidgets().size() < widgets + 20);
     QVERIFY(m_player->played > 0);
     QVERIFY(user.DialogsMet() > 0);
+    QVERIFY(actions < 2000 || m_chordsHeard > 0);
+}
+
+// Each by itself, and from scratch, so not after every action.
+void RandomUseTest::CheckInvariants() {
+    QCOMPARE(BrokenStrip(Window()), QString());
+    QCOMPARE(BrokenNames(Window(), m_start->State()), QString());
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* sheet = dynamic_cast<frmDiags*>(window); sheet != nullptr && sheet->isVisible())
+            QTRY_COMPARE(BrokenSheet(*sheet), QString()); // The pages follow the text.
+}
+
+void RandomUseTest::CheckHeard() {
+    const auto broken = BrokenChord(State(), m_start->State());
+    QCOMPARE(broken.value_or(QString()), QString());
+    m_chordsHeard += broken ? 1 : 0;
 }
 
 // Some of them stay in memory once they were open.

@@ -15,12 +15,13 @@
 namespace {
 
 constexpr std::array keys{
-    Qt::Key_F1,     Qt::Key_F2,       Qt::Key_F3,   Qt::Key_F4,    Qt::Key_F5,    Qt::Key_F6,
-    Qt::Key_F7,     Qt::Key_F8,       Qt::Key_F9,   Qt::Key_F10,   Qt::Key_Down,  Qt::Key_Up,
-    Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Home, Qt::Key_End,   Qt::Key_Space, Qt::Key_Return,
-    Qt::Key_Tab,    Qt::Key_Backtab,  Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Menu,  Qt::Key_Delete,
-    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_A,    Qt::Key_M,     Qt::Key_7,     Qt::Key_1,
-    Qt::Key_3,      Qt::Key_Backspace};
+    Qt::Key_F1,     Qt::Key_F2,        Qt::Key_F3,   Qt::Key_F4,    Qt::Key_F5,    Qt::Key_F6,
+    Qt::Key_F7,     Qt::Key_F8,        Qt::Key_F9,   Qt::Key_F10,   Qt::Key_Down,  Qt::Key_Up,
+    Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home, Qt::Key_End,   Qt::Key_Space, Qt::Key_Return,
+    Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Menu,  Qt::Key_Delete,
+    Qt::Key_PageUp, Qt::Key_PageDown,  Qt::Key_A,    Qt::Key_M,     Qt::Key_7,     Qt::Key_1,
+    Qt::Key_3,      Qt::Key_Backspace, Qt::Key_F11,  Qt::Key_F12,   Qt::Key_Z,     Qt::Key_D,
+    Qt::Key_F};
 
 constexpr std::array<Qt::KeyboardModifiers::Int, 8> modifiers{0,
                                                               0,
@@ -103,7 +104,9 @@ void RandomUser::UseMouse(QWidget& control) {
 
 void RandomUser::UseKeyboard(QWidget& window) {
     QWidget* focus = window.focusWidget();
-    QTest::keyClick(focus != nullptr ? focus : &window, keys[m_random() % keys.size()],
+    const Qt::Key key = keys[m_random() % keys.size()];
+    m_metUndo = m_metUndo || key == Qt::Key_Z;
+    QTest::keyClick(focus != nullptr ? focus : &window, key,
                     Qt::KeyboardModifiers::fromInt(modifiers[m_random() % modifiers.size()]));
 }
 

@@ -20,9 +20,11 @@ public:
 
     int DialogsMet() const { return m_dialogsMet; }
 
-    // Whether the settings were open, or an action failed half way, since the last call.
+    // Whether the settings were open, an action failed half way, or the keys of undo and redo
+    // were pressed, since the last call.
     bool MetSettings() { return std::exchange(m_metSettings, false); }
     bool MetError() { return std::exchange(m_metError, false); }
+    bool MetUndo() { return std::exchange(m_metUndo, false); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -47,4 +49,5 @@ private:
     int m_dialogsMet = 0;
     bool m_metSettings = false;
     bool m_metError = false;
+    bool m_metUndo = false;
 };
