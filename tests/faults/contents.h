@@ -3,6 +3,7 @@
 
 #include "core/profile.h"
 #include "core/settings.h"
+#include "diagrams/chordprofile.h"
 #include "diagrams/sheetfile.h"
 
 enum class Content { Old, New };
@@ -27,9 +28,18 @@ inline void WriteDiagrams(const QString& path, Content content) {
     WriteSheet(path, line.repeated(2000));
 }
 
+// The same as a song for other programs.
+inline void WriteSong(const QString& path, Content content) {
+    const QString line = content == Content::New ? QStringLiteral("[Am]И так[F]далее\n")
+                                                 : QStringLiteral("[C]И вот\n");
+    WriteChordProFile(path, line.repeated(2000));
+}
+
 inline void WriteContent(const QString& path, Content content) {
     if (path.endsWith(QStringLiteral(".ini")))
         WriteSettings(path, content);
+    else if (path.endsWith(QStringLiteral(".cho")))
+        WriteSong(path, content);
     else
         WriteDiagrams(path, content);
 }
