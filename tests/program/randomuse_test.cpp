@@ -67,6 +67,7 @@ private:
     void CheckFingering();
     void CheckNoDialogIsLeft();
     void CheckInvariants();
+    void CheckHistory(const Workbench& before);
     void CheckHeard();
 
     frmMain& Window() { return m_start->Window(); }
@@ -112,20 +113,20 @@ void RandomUseTest::TheProgramStaysWhole() {
     bool canGoBack = true; // To that.
     for (int action = 1; action <= actions; ++action) {
         user.Act();
-        // Marks stay where the fingers are while other strings are laid under them.
-        if (user.MetSettings()) {
+        // Marks stay where the fingers are while other strings are laid under them, and undo
+        // leads back to that.
+        const bool metSettings = user.MetSettings();
+        if (user.MetUndo() || metSettings) {
             Window().picStrings_MouseDown(Qt::RightButton, {});
             canGoBack = false;
         }
-        if (user.MetUndo())
-            canGoBack = false;
         // What was done until then stays, so that not all may be named yet.
         if (user.MetError())
             Window().picKeyboard_MouseDown(Qt::RightButton, {});
         Check();
         if (action % 10 == 0) {
             if (canGoBack)
-                QCOMPARE(BrokenHistory(Window(), before), QString());
+                CheckHistory(before);
             before = State();
             canGoBack = true;
         }
@@ -165,6 +166,10 @@ void RandomUseTest::CheckInvariants() {
     for (QWidget* window : QApplication::topLevelWidgets())
         if (auto* sheet = dynamic_cast<frmDiags*>(window); sheet != nullptr && sheet->isVisible())
             QTRY_COMPARE(BrokenSheet(*sheet), QString()); // The pages follow the text.
+}
+
+void RandomUseTest::CheckHistory(const Workbench& before) {
+    QCOMPARE(BrokenHistory(Window(), before), QString());
 }
 
 void RandomUseTest::CheckHeard() {
