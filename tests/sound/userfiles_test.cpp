@@ -121,6 +121,17 @@ private Q_SLOTS:
         QVERIFY(held > 4 * Loudness(m_recording->Heard(), 60, 0.7, 0.9));
     }
 
+    void TheEndLiftsThePedal() {
+        const QByteArray file = OneTrack(Control(64, 127) + Note(60));
+        m_recording->Midi().PlayMidiFile(Write(file));
+        m_recording->WaitUntil(2);
+        const double held = Loudness(m_recording->Heard(), 60, 1.6, 2);
+        m_recording = std::make_unique<Recording>(m_folder.Path());
+        Play(file, 1);
+        m_recording->WaitUntil(2);
+        QVERIFY(held > 4 * Loudness(m_recording->Heard(), 60, 1.6, 2));
+    }
+
     void TheNextNoteEndsWhatTheFileStillWanted() {
         const QByteArray melody = OneTrack(Note(60) + Note(62) + Note(64) + Note(65));
         m_recording->Midi().PlayMidiFile(Write(melody));
