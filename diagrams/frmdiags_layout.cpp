@@ -4,8 +4,8 @@
 #include "controls/handle.h"
 #include "controls/icons.h"
 #include "controls/newcontrols.h"
-#include "controls/twips.h"
 #include "controls/placing.h"
+#include "controls/twips.h"
 
 #include <QScreen>
 #include <QShortcut>

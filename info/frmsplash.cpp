@@ -38,7 +38,8 @@ protected:
         const double top = row / 2;
         const double bottom = height() - top;
         for (int i = 0; i <= frets; ++i) {
-            painter.setPen(QPen(i == 0 ? Colours::buttonDark.Now() : Colours::line.Now(), i == 0 ? 4 : 2));
+            painter.setPen(
+                QPen(i == 0 ? Colours::buttonDark.Now() : Colours::line.Now(), i == 0 ? 4 : 2));
             const double x = 2 + i * fret;
             painter.drawLine(QPointF(x, top), QPointF(x, bottom));
         }
